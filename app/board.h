@@ -1,13 +1,13 @@
 #pragma once
 
+#include <array>
 #include <QChar>
 #include <QString>
-#include <array>
 
 /// The board model: a fixed grid of cells, the words that lie on it, and nothing that draws.
 ///
-/// Cells are numbered from 1, row by row; words ("items") from 1 in the order of placing. Entry 0 of
-/// each table exists but is no part of the game.
+/// Cells are numbered from 1, row by row; words ("items") from 1 in the order of placing. Entry 0
+/// of each table exists but is no part of the game.
 
 inline constexpr int kColunas = 26;
 inline constexpr int kLinhas = 22;
@@ -39,7 +39,8 @@ struct RegistroItem
     bool ItemResolvido = false;
 };
 
-/// The board's tables. One object owns them; every room that plays or builds reads and writes directly.
+/// The board's tables. One object owns them; every room that plays or builds reads and writes
+/// directly.
 struct Tabuleiro
 {
     std::array<CelulaQuadrado, kCelulas + 1> Quadrado;
@@ -50,7 +51,8 @@ struct Tabuleiro
     int QtdItens = 0;
 };
 
-/// The items through a cell, parsed: `segundo` is 0 where one word passes, both are 0 where none does.
+/// The items through a cell, parsed: `segundo` is 0 where one word passes, both are 0 where none
+/// does.
 struct ItensDaCelula
 {
     int primeiro = 0;
@@ -58,11 +60,18 @@ struct ItensDaCelula
 };
 
 /// Row of cell `i` (1 to kCelulas), from 0.
-constexpr int LinhaDe(int i) { return (i - 1) / kColunas; }
+constexpr int LinhaDe(int i)
+{
+    return (i - 1) / kColunas;
+}
 /// Column of cell `i` (1 to kCelulas), from 0.
-constexpr int ColunaDe(int i) { return (i - 1) % kColunas; }
+constexpr int ColunaDe(int i)
+{
+    return (i - 1) % kColunas;
+}
 
-/// Distance in cells from one letter of a word to the next: 1 for 'H', kColunas for 'V', 0 for anything else.
+/// Distance in cells from one letter of a word to the next: 1 for 'H', kColunas for 'V', 0 for
+/// anything else.
 constexpr int PassoDe(QChar sentido)
 {
     return sentido == u'H' ? 1 : sentido == u'V' ? kColunas : 0;
@@ -74,12 +83,12 @@ constexpr int CelulaDaLetra(const RegistroItem &item, int k)
     return item.Ponto + PassoDe(item.Sentido) * k;
 }
 
-/// Splits the `Itens` text of a cell into its one or two numbers. Of the second number at most three
-/// characters are read.
+/// Splits the `Itens` text of a cell into its one or two numbers. Of the second number at most
+/// three characters are read.
 ItensDaCelula LeItens(const QString &itens);
 
-/// The part of wzera that is no display: empties the occupied flags, `Itens` and `Fixa` of all cells and
-/// `ItemResolvido` of all items. Leaves letters, words and QtdItens as they are.
+/// The part of wzera that is no display: empties the occupied flags, `Itens` and `Fixa` of all
+/// cells and `ItemResolvido` of all items. Leaves letters, words and QtdItens as they are.
 void ZeraTabuleiro(Tabuleiro &tabuleiro);
 
 /// Number of items with `ItemResolvido`, 0 to kItens.

@@ -4,7 +4,8 @@
 
 namespace {
 
-/// Characters of the bytes 0x80 to 0x9F; all other bytes stand for the character of their own number.
+/// Characters of the bytes 0x80 to 0x9F; all other bytes stand for the character of their own
+/// number.
 constexpr std::array<char16_t, 32> kMeio = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -43,8 +44,8 @@ QByteArray ParaCodePage(const QString &texto)
     for (qsizetype k = 0; k < texto.size(); ++k) {
         const int byte = ByteDe(texto[k].unicode());
         bytes.append(byte < 0 ? '?' : static_cast<char>(byte));
-        const bool par = texto[k].isHighSurrogate() && k + 1 < texto.size() &&
-                         texto[k + 1].isLowSurrogate();
+        const bool par =
+            texto[k].isHighSurrogate() && k + 1 < texto.size() && texto[k + 1].isLowSurrogate();
         k += par ? 1 : 0;
     }
     return bytes;

@@ -18,8 +18,8 @@ public:
 
 /// The program's generator: std::mt19937_64, one draw is (x >> 11) * 2^-53.
 ///
-/// Same seed, same values, on every platform and in every version. "Reseeding" keeps the stream going, so
-/// that draws made within one tick of the clock stay independent of each other.
+/// Same seed, same values, on every platform and in every version. "Reseeding" keeps the stream
+/// going, so that draws made within one tick of the clock stay independent of each other.
 class AcasoMersenne final : public Acaso
 {
 public:
@@ -45,8 +45,8 @@ inline int SorteiaNumero(Acaso &acaso, int n)
     return static_cast<int>(acaso.Uniforme() * n) + 1;
 }
 
-/// The percent draw: True if a draw from 1 to 100 is less than `p`. The test is strict, so 50 means 49
-/// times in 100, 1 never and 101 always. One draw.
+/// The percent draw: True if a draw from 1 to 100 is less than `p`. The test is strict, so 50 means
+/// 49 times in 100, 1 never and 101 always. One draw.
 inline bool Sorteia(Acaso &acaso, int p)
 {
     return SorteiaNumero(acaso, 100) < p;

@@ -22,7 +22,8 @@ QString DoisDigitos(int numero)
     return QString::number(numero).rightJustified(2, u'0');
 }
 
-/// The leading digits of `texto` as a number, 0 without any. Larger numbers than fit are held at the limit.
+/// The leading digits of `texto` as a number, 0 without any. Larger numbers than fit are held at
+/// the limit.
 qint64 DigitosIniciais(const QString &texto)
 {
     constexpr qint64 kLimite = 1'000'000'000;
@@ -69,7 +70,8 @@ QString Maiusculas(const QString &texto)
 QString FormataTempo(int segundos)
 {
     const int minutos = segundos / 60;
-    return DoisDigitos(minutos / 60) + u':' + DoisDigitos(minutos % 60) + u':' + DoisDigitos(segundos % 60);
+    return DoisDigitos(minutos / 60) + u':' + DoisDigitos(minutos % 60) + u':' +
+           DoisDigitos(segundos % 60);
 }
 
 QString CampoTexto(const QString &texto, const QString &separador, int n)
@@ -107,7 +109,8 @@ QString TrocaTexto(const QString &texto, const QString &velho, const QString &no
     if (novo.contains(velho)) {
         return resultado.replace(velho, novo);
     }
-    for (auto posicao = resultado.indexOf(velho); posicao >= 0; posicao = resultado.indexOf(velho)) {
+    for (auto posicao = resultado.indexOf(velho); posicao >= 0;
+         posicao = resultado.indexOf(velho)) {
         resultado.replace(posicao, velho.size(), novo);
     }
     return resultado;

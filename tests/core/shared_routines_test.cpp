@@ -95,8 +95,9 @@ TEST(FormataTempo, CarriesMinutesIntoHoursWithoutLimit)
         const char16_t *texto;
     };
     for (const auto &[segundos, texto] :
-         {Caso{0, u"00:00:00"}, Caso{59, u"00:00:59"}, Caso{60, u"00:01:00"}, Caso{3599, u"00:59:59"},
-          Caso{3600, u"01:00:00"}, Caso{86399, u"23:59:59"}, Caso{360000, u"100:00:00"}}) {
+         {Caso{0, u"00:00:00"}, Caso{59, u"00:00:59"}, Caso{60, u"00:01:00"},
+          Caso{3599, u"00:59:59"}, Caso{3600, u"01:00:00"}, Caso{86399, u"23:59:59"},
+          Caso{360000, u"100:00:00"}}) {
         EXPECT_EQ(FormataTempo(segundos), QString::fromUtf16(texto));
     }
 }

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/board.h"
+#include "bank/question_bank.h"
+#include "bank/used_words.h"
+#include "builder/word_index.h"
+#include "builder/word_placing.h"
+#include "shell/chance.h"
+
+/// How the builder finds out whether a word has been used: by the index, or by the plain scan that
+/// defines the answer. Both give the same puzzles.
+enum class BuscaUsadas { Indice, VarreduraSimples };
+
+/// Everything that the builds of a run work with. The tables belong to the caller and live as long.
+struct DadosMontagem
+{
+    Tabuleiro &tabuleiro;
+    const BancoPerguntas &banco;
+    const IndiceBanco &indice;
+    MemoriaUsadas &memoria;
+    Acaso &acaso;
+    ExibicaoMontagem &exibicao;
+    BuscaUsadas busca = BuscaUsadas::Indice;
+};
+
+/// One build under way: the data and what the steps of a build share.
+class Montagem
+{
+public:
+    explicit Montagem(const DadosMontagem &dados) : d(dados), m_marcas(dados.indice, dados.memoria)
+    {
+    }
+
+    /// Draws an entry of the bank, 1 to QtdPerguntas. One draw.
+    [[nodiscard]] int SorteiaPergunta() { return SorteiaNumero(d.acaso, d.banco.QtdPerguntas); }
+    /// jafoi for the word of entry `k`.
+    [[nodiscard]] bool JaFoi(int k);
+    /// First position (from 1) of `letra` in the word of entry `k`, 0 if it has none.
+    [[nodiscard]] int PosicaoDaLetra(int k, QChar letra) const
+    {
+        return d.indice.PrimeirasPosicoes(letra)[k];
+    }
+    /// Places the word of entry `k`; `sentido` is 'H' or 'V'.
+    void Poe(int k, int ponto, QChar sentido);
+    [[nodiscard]] bool Completa() const { return d.tabuleiro.QtdItens >= kItens; }
+
+    DadosMontagem d;
+
+private:
+    MarcasUsadas m_marcas;
+};
+
+/// How a build ended: with kItens words on the board, or with fewer after the last rescue pass.
+enum class FimMontagem { Completa, Falhou };
+
+/// Builds a whole crossword on a board that wzera has emptied: a first word, a skeleton of crossing
+/// words, rescue passes. A word once laid is never taken back.
+///
+/// The bank must serve (IndiceBanco::Serve), or the search for a first word would never end. The
+/// order of draws is a contract: one for each formula and one for each Sorteia, in the order of the
+/// steps, none besides. Same generator state, bank and memory, same puzzle, on every platform and
+/// in every version.
+[[nodiscard]] FimMontagem CarregaPalavras(const DadosMontagem &dados);

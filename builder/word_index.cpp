@@ -1,0 +1,57 @@
+#include "builder/word_index.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr size_t kCaracteres = 0x10000;
+constexpr int kMenorPrimeira = 5;
+
+} // namespace
+
+IndiceBanco::IndiceBanco(const BancoPerguntas &banco)
+    : m_comprimento(static_cast<size_t>(banco.QtdPerguntas) + 1),
+      m_texto(m_comprimento.size()),
+      m_posicoes(1, std::vector<std::uint8_t>(m_comprimento.size())),
+      m_linhaDaLetra(kCaracteres)
+{
+    for (size_t k = 1; k < m_comprimento.size(); ++k) {
+        const QString &palavra = banco.BancoPalavra[k];
+        m_comprimento[k] = static_cast<std::uint8_t>(palavra.size());
+        const int novo = QtdTextos();
+        m_texto[k] = static_cast<std::int16_t>(
+            *m_numeroDoTexto.insert(palavra, m_numeroDoTexto.value(palavra, novo)));
+        m_serve = m_serve || palavra.size() >= kMenorPrimeira;
+        AnotaLetras(palavra, k);
+    }
+}
+
+void IndiceBanco::AnotaLetras(const QString &palavra, size_t k)
+{
+    for (qsizetype q = 0; q < palavra.size(); ++q) {
+        auto &linha = m_linhaDaLetra[palavra[q].unicode()];
+        if (linha == 0) {
+            linha = static_cast<std::uint16_t>(m_posicoes.size());
+            m_posicoes.emplace_back(m_comprimento.size());
+        }
+        auto &posicao = m_posicoes[linha][k];
+        posicao = posicao == 0 ? static_cast<std::uint8_t>(q + 1) : posicao;
+    }
+}
+
+const std::uint8_t *IndiceBanco::PrimeirasPosicoes(QChar letra) const
+{
+    return m_posicoes[m_linhaDaLetra[letra.unicode()]].data();
+}
+
+MarcasUsadas::MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria)
+    : m_indice(&indice), m_usada(static_cast<size_t>(indice.QtdTextos()))
+{
+    memoria.QtdUsadas = std::min(memoria.QtdUsadas, kMaxUsadas);
+    for (int k = 0; k <= memoria.QtdUsadas; ++k) {
+        const int texto = indice.ProcuraTexto(memoria.PalavrasUsadas[static_cast<size_t>(k)]);
+        if (texto >= 0) {
+            m_usada[static_cast<size_t>(texto)] = 1;
+        }
+    }
+}

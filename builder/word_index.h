@@ -1,0 +1,66 @@
+#pragma once
+
+#include "bank/question_bank.h"
+#include "bank/used_words.h"
+#include <cstdint>
+#include <QHash>
+#include <vector>
+
+/// What is worked out once about the bank, so that a draw and its rejection touch a few bytes and
+/// compare no text: each entry's length, the first position of each letter in it, and which entries
+/// are one word.
+class IndiceBanco
+{
+public:
+    explicit IndiceBanco(const BancoPerguntas &banco);
+
+    /// Letters of entry `k`, 1 to QtdPerguntas.
+    [[nodiscard]] int Comprimento(int k) const { return m_comprimento[static_cast<size_t>(k)]; }
+    /// First positions (from 1) of `letra` in the entries, by entry; 0 where an entry lacks it.
+    [[nodiscard]] const std::uint8_t *PrimeirasPosicoes(QChar letra) const;
+    /// Number of the word of entry `k`: the same for entries that hold the same word, 0 to
+    /// QtdTextos() - 1.
+    [[nodiscard]] int TextoDe(int k) const { return m_texto[static_cast<size_t>(k)]; }
+    [[nodiscard]] int QtdTextos() const { return static_cast<int>(m_numeroDoTexto.size()); }
+    /// Number of `palavra`, or -1 where the bank lacks it.
+    [[nodiscard]] int ProcuraTexto(const QString &palavra) const
+    {
+        return m_numeroDoTexto.value(palavra, -1);
+    }
+    /// Whether some entry has at least 5 letters. Without one no first word can ever be laid.
+    [[nodiscard]] bool Serve() const { return m_serve; }
+
+private:
+    void AnotaLetras(const QString &palavra, size_t k);
+
+    std::vector<std::uint8_t> m_comprimento;
+    std::vector<std::int16_t> m_texto;
+    QHash<QString, int> m_numeroDoTexto;
+    /// One row of QtdPerguntas + 1 positions for each letter that occurs; row 0 belongs to all
+    /// other letters.
+    std::vector<std::vector<std::uint8_t>> m_posicoes;
+    std::vector<std::uint16_t> m_linhaDaLetra;
+    bool m_serve = false;
+};
+
+/// Answers jafoi for entries of the bank by one flag for each distinct word. Must be told of every
+/// word that is placed, and made anew when the memory changes.
+class MarcasUsadas
+{
+public:
+    /// The marks of a build that begins: no item is placed. Holds QtdUsadas at kMaxUsadas, as jafoi
+    /// does.
+    MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria);
+
+    /// What jafoi answers for the word of entry `k`.
+    [[nodiscard]] bool JaFoi(int k) const
+    {
+        return m_usada[static_cast<size_t>(m_indice->TextoDe(k))] != 0;
+    }
+    /// Entry `k` has been placed.
+    void Marca(int k) { m_usada[static_cast<size_t>(m_indice->TextoDe(k))] = 1; }
+
+private:
+    const IndiceBanco *m_indice;
+    std::vector<std::uint8_t> m_usada;
+};

@@ -1,0 +1,44 @@
+// Compiles the question bank: compila_banco SOURCE.tsv OUTPUT.tes
+
+#include "tools/bank_source.h"
+
+#include <cstdio>
+#include <QFile>
+#include <QSaveFile>
+
+namespace {
+
+int Recusa(const QString &arquivo, const QString &motivo)
+{
+    std::fprintf(stderr, "%s:%s\n", qPrintable(arquivo), qPrintable(motivo));
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: compila_banco SOURCE.tsv OUTPUT.tes\n");
+        return 2;
+    }
+    const QString origem = QFile::decodeName(argv[1]);
+    QFile entrada(origem);
+    if (!entrada.open(QIODevice::ReadOnly)) {
+        return Recusa(origem, QStringLiteral(" cannot be read"));
+    }
+    const FonteBanco fonte = LeFonte(entrada.readAll());
+    for (const QString &falta : fonte.faltas) {
+        Recusa(origem, falta);
+    }
+    if (!fonte.faltas.isEmpty()) {
+        return 2;
+    }
+    const QString destino = QFile::decodeName(argv[2]);
+    QSaveFile saida(destino);
+    if (!saida.open(QIODevice::WriteOnly) || saida.write(CompilaBanco(fonte.entradas)) < 0 ||
+        !saida.commit()) {
+        return Recusa(destino, QStringLiteral(" cannot be written"));
+    }
+    return 0;
+}
