@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <QImage>
+#include <QPixmap>
+#include <QString>
+
+namespace toolkit {
+
+/// A picture of the game: one drawing at its natural size and at twice and three times that size.
+class Picture
+{
+public:
+    Picture() = default;
+
+    /// Loads `:/figuras/<nome>.png` with its `@2x` and `@3x`. The pictures are part of the
+    /// executable, so a name that does not exist is a fault of the program.
+    explicit Picture(const QString &nome);
+
+    [[nodiscard]] bool IsNull() const { return m_pixels.isNull(); }
+    /// Natural size in pixels.
+    [[nodiscard]] QSize Tamanho() const { return m_pixels.size(); }
+    /// The natural picture's pixels, from which a window region is cut.
+    [[nodiscard]] const QImage &Pixels() const { return m_pixels; }
+    /// The drawing that is sharp on a screen of `escala` device pixels to the pixel: the smallest
+    /// that is large enough. Its devicePixelRatio is its own scale.
+    [[nodiscard]] const QPixmap &ParaEscala(qreal escala) const;
+
+private:
+    QImage m_pixels;
+    std::array<QPixmap, 3> m_desenhos;
+};
+
+} // namespace toolkit
