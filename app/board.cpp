@@ -21,6 +21,7 @@ void ZeraTabuleiro(Tabuleiro &tabuleiro)
         celula.Fixa = false;
     }
     tabuleiro.Ocupada.fill(false);
+    ++tabuleiro.Partida;
 }
 
 int ContaResolvidos(const Tabuleiro &tabuleiro)

@@ -49,6 +49,9 @@ struct Tabuleiro
     std::array<bool, kCelulas + 1> Ocupada{};
     /// Words placed so far, 0 to kItens.
     int QtdItens = 0;
+    /// How often the board has been emptied. Code that lets events run finds out by it that the
+    /// board it worked on is gone.
+    int Partida = 0;
 };
 
 /// The items through a cell, parsed: `segundo` is 0 where one word passes, both are 0 where none

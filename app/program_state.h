@@ -5,8 +5,13 @@
 /// The values that the whole program shares and the state of the main form. Form1 owns them and
 /// hands references to the rooms; the splash screen sets the paths and the first DPI test.
 
+class clsRegistryAccess;
+
 struct ValoresPrograma
 {
+    /// The registry's one shared instance. Belongs to the start of the program; never null once a
+    /// form loads.
+    clsRegistryAccess *registro = nullptr;
     /// Title of the application and of every message box.
     QString Titulo;
     /// Directory of the executable, without a separator at its end (but for the root of a file

@@ -91,7 +91,7 @@ int Vazios(const Tabuleiro &tabuleiro, int i, QChar d)
 
 bool jafoi(const QString &palavra, MemoriaUsadas &memoria, const Tabuleiro &tabuleiro)
 {
-    memoria.QtdUsadas = std::min(memoria.QtdUsadas, kMaxUsadas);
+    memoria.QtdUsadas = std::min(memoria.QtdUsadas, kUsadas);
     // The list is read from entry 0 to entry QtdUsadas, one past the words it counts: an empty word
     // always counts as used.
     const auto usadas = memoria.PalavrasUsadas.begin();

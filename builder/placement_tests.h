@@ -24,5 +24,5 @@ bool Cabe(int comprimento, int w_ponto, QChar w_sentido);
 int Vazios(const Tabuleiro &tabuleiro, int i, QChar d);
 
 /// Whether `palavra` must not be used now: it stands in the used-word list or among the items
-/// placed. The comparison is exact. Holds QtdUsadas at kMaxUsadas.
+/// placed. The comparison is exact. Holds QtdUsadas at kUsadas.
 bool jafoi(const QString &palavra, MemoriaUsadas &memoria, const Tabuleiro &tabuleiro);

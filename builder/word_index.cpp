@@ -47,7 +47,7 @@ const std::uint8_t *IndiceBanco::PrimeirasPosicoes(QChar letra) const
 MarcasUsadas::MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria)
     : m_indice(&indice), m_usada(static_cast<size_t>(indice.QtdTextos()))
 {
-    memoria.QtdUsadas = std::min(memoria.QtdUsadas, kMaxUsadas);
+    memoria.QtdUsadas = std::min(memoria.QtdUsadas, kUsadas);
     for (int k = 0; k <= memoria.QtdUsadas; ++k) {
         const int texto = indice.ProcuraTexto(memoria.PalavrasUsadas[static_cast<size_t>(k)]);
         if (texto >= 0) {

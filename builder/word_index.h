@@ -48,7 +48,7 @@ private:
 class MarcasUsadas
 {
 public:
-    /// The marks of a build that begins: no item is placed. Holds QtdUsadas at kMaxUsadas, as jafoi
+    /// The marks of a build that begins: no item is placed. Holds QtdUsadas at kUsadas, as jafoi
     /// does.
     MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria);
 

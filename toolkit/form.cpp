@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QTimer>
@@ -44,6 +45,15 @@ void Form::SetPicture(const Picture &picture)
 {
     m_picture = picture;
     update();
+}
+
+void Form::SetIcone(const QString &nome)
+{
+    QIcon icone;
+    for (const int tamanho : {16, 32, 48, 256}) {
+        icone.addFile(QStringLiteral(":/figuras/%1%2.png").arg(nome).arg(tamanho));
+    }
+    setWindowIcon(icone);
 }
 
 void Form::SetLeft(float left)

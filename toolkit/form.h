@@ -29,6 +29,8 @@ public:
     [[nodiscard]] int Dpi() const { return m_dpi; }
     [[nodiscard]] const Picture &GetPicture() const { return m_picture; }
     void SetPicture(const Picture &picture);
+    /// The icon `:/figuras/<nome><tamanho>.png` in the sizes that a task bar asks for.
+    void SetIcone(const QString &nome);
     void SetCaption(const QString &caption) { setWindowTitle(caption); }
 
     [[nodiscard]] float Left() const { return m_left; }

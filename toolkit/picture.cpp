@@ -27,4 +27,9 @@ const QPixmap &Picture::ParaEscala(qreal escala) const
     return m_desenhos[k];
 }
 
+QCursor Ponteiro(const Picture &figura, QPoint ponta)
+{
+    return QCursor(figura.ParaEscala(1), ponta.x(), ponta.y());
+}
+
 } // namespace toolkit

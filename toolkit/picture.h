@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <QCursor>
 #include <QImage>
 #include <QPixmap>
 #include <QString>
@@ -30,5 +31,8 @@ private:
     QImage m_pixels;
     std::array<QPixmap, 3> m_desenhos;
 };
+
+/// The pointer drawn in `figura`; `ponta` is its hot spot, in the picture's pixels.
+QCursor Ponteiro(const Picture &figura, QPoint ponta);
 
 } // namespace toolkit

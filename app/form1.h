@@ -1,0 +1,58 @@
+#pragma once
+
+#include "app/board_view.h"
+#include "app/game_cycle.h"
+#include "play/clock.h"
+#include "play/commands.h"
+#include "play/hint_bubble.h"
+#include "play/letter_entry.h"
+#include "play/word_check.h"
+
+#include <memory>
+
+/// The main form: the only window that lives as long as the process. Owns the game's tables, makes
+/// the rooms of play and connects each control's event to its room; what the events do stands
+/// there.
+class Form1
+{
+public:
+    /// Builds everything that outlasts a game; the form is not shown yet. `valores` and `ambiente`
+    /// must outlive it. `dpi`: the screen's dots per inch.
+    Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi);
+
+    void Show() { m_form.Show(); }
+    [[nodiscard]] toolkit::Form &Janela() { return m_form; }
+    [[nodiscard]] const ContextoJogo &Jogo() const { return m_jogo; }
+
+private:
+    void Form_Load();
+    void Form_Activate();
+    void CarregaBotoes();
+    void LigaTabuleiro();
+    void LigaBalao();
+    void LigaComandos();
+    void LigaRelogio();
+    void AjustaAoDpi(int dpiAplicado);
+
+    ValoresPrograma &m_valores;
+    Ambiente &m_ambiente;
+    toolkit::Form m_form;
+    forms::ControlesForm1 m_c;
+
+    Tabuleiro m_tabuleiro;
+    EstadoForm1 m_estado;
+    MemoriaUsadas m_memoria;
+    std::unique_ptr<BancoPerguntas> m_banco;
+    std::unique_ptr<IndiceBanco> m_indice;
+
+    ContextoJogo m_jogo;
+    VistaTabuleiro m_vista;
+    Selecao m_selecao;
+    EntradaLetras m_entrada;
+    Verificacao m_verificacao;
+    BalaoDica m_balao;
+    Relogio m_relogio;
+    Comandos m_comandos;
+    std::unique_ptr<CicloJogo> m_ciclo;
+    bool m_jaAtivou = false;
+};

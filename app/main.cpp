@@ -1,0 +1,27 @@
+#include "app/form1.h"
+#include "app/splash.h"
+#include "shell/machine.h"
+#include "shell/registry_start.h"
+#include "toolkit/units.h"
+
+#include <QApplication>
+#include <QScreen>
+
+int main(int argc, char *argv[])
+{
+    const QApplication aplicacao(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    // The banner goes before the main form shows; only the program's own end is an end.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const int dpi = qRound(QApplication::primaryScreen()->logicalDotsPerInch());
+    ValoresPrograma valores;
+    FixaValores(valores, QApplication::applicationDirPath());
+    RegistroDoPrograma registro(dpi);
+    valores.registro = &registro.Acesso();
+    Ambiente ambiente = AmbienteReal(valores);
+    std::unique_ptr<Form1> principal;
+    FrmSplash splash(valores, ambiente, principal, dpi);
+    splash.Show();
+    return QApplication::exec();
+}

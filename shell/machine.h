@@ -1,0 +1,8 @@
+#pragma once
+
+#include "app/program_state.h"
+#include "shell/ambiente.h"
+
+/// The seam with everything real behind it: the system's clock, entropy, sound, message boxes and
+/// browser. `valores` must outlive it; its title and program directory must be set.
+Ambiente AmbienteReal(const ValoresPrograma &valores);
