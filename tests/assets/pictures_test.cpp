@@ -89,16 +89,29 @@ bool Lisa(const QImage &imagem, const QRect &area, QRgb cor)
     return true;
 }
 
-/// Pixels of pure white in `area`.
-int Brancos(const QImage &imagem, const QRect &area)
+/// Pixels in `area` whose colour `serve`.
+template <typename Teste>
+int Conta(const QImage &imagem, const QRect &area, Teste serve)
 {
     int n = 0;
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x) {
-            n += imagem.pixel(x, y) == kBrancoPuro ? 1 : 0;
+            n += serve(imagem.pixel(x, y)) ? 1 : 0;
         }
     }
     return n;
+}
+
+int Brancos(const QImage &imagem, const QRect &area)
+{
+    return Conta(imagem, area, [](QRgb cor) { return cor == kBrancoPuro; });
+}
+
+/// Pixels of a menu button's word, of its light upper edge and of its dark foot.
+int DeBotao(const QImage &imagem, const QRect &area)
+{
+    return Conta(imagem, area,
+                 [](QRgb cor) { return Luminancia(cor) > 0.33 || Luminancia(cor) < 0.03; });
 }
 
 /// Largest difference of a channel between two pictures; 255 where their sizes differ.
@@ -244,7 +257,7 @@ TEST(Pictures, HaveABoxUnderEveryItemButtonAndTheClock)
     EXPECT_TRUE(form.pixel(562, meio) == kCorpo && form.pixel(639, meio) == kCorpo);
 }
 
-TEST(Pictures, PaintTheirWordsAndSignsUnderTheClickZones)
+TEST(Pictures, PaintTheirButtonsUnderTheClickZones)
 {
     const QImage form = Le(u"Form1");
     const std::array zonas = {QRect(524, 46, 113, 26),  QRect(524, 86, 113, 26),
@@ -252,10 +265,10 @@ TEST(Pictures, PaintTheirWordsAndSignsUnderTheClickZones)
                               QRect(525, 207, 113, 27), QRect(525, 248, 113, 27)};
     int soma = 0;
     for (const QRect &zona : zonas) {
-        EXPECT_GT(Brancos(form, zona), 30);
-        soma += Brancos(form, zona);
+        EXPECT_GT(DeBotao(form, zona), 300);
+        soma += DeBotao(form, zona);
     }
-    EXPECT_EQ(Brancos(form, {500, 32, 148, 300}), soma);
+    EXPECT_EQ(DeBotao(form, {500, 32, 148, 300}), soma);
 
     const int informacao = Brancos(form, {614, 2, 16, 16});
     const int cruz = Brancos(form, {629, 2, 19, 18});
@@ -360,7 +373,7 @@ TEST(IconFile, HoldsThreeSizesInTwoDepths)
                   40 + (bits == 8 ? 1024 : 0) + lado * lado * bits / 8 + mascara);
         // A pixel in the middle of the tile is blue in both depths: the ring's inside.
         const qsizetype pixels = fim + 40 + (bits == 8 ? 1024 : 0);
-        const qsizetype meio = (lado - 1 - lado * 7 / 16) * lado + lado * 7 / 16;
+        const qsizetype meio = (lado - 1 - lado * 7 / 16) * qsizetype{lado} + lado * 7 / 16;
         const quint32 cor =
             bits == 32 ? numero(pixels + meio * 4)
                        : numero(fim + 40 + 4 * static_cast<unsigned char>(bytes[pixels + meio]));
