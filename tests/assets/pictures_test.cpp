@@ -373,10 +373,11 @@ TEST(IconFile, HoldsThreeSizesInTwoDepths)
                   40 + (bits == 8 ? 1024 : 0) + lado * lado * bits / 8 + mascara);
         // A pixel in the middle of the tile is blue in both depths: the ring's inside.
         const qsizetype pixels = fim + 40 + (bits == 8 ? 1024 : 0);
-        const qsizetype meio = (lado - 1 - lado * 7 / 16) * qsizetype{lado} + lado * 7 / 16;
+        const qsizetype meio = (lado - 1 - lado * 7 / 16) * lado + lado * 7 / 16;
         const quint32 cor =
             bits == 32 ? numero(pixels + meio * 4)
-                       : numero(fim + 40 + 4 * static_cast<unsigned char>(bytes[pixels + meio]));
+                       : numero(fim + 40 +
+                                qsizetype{4} * static_cast<unsigned char>(bytes[pixels + meio]));
         EXPECT_GT(qBlue(cor), 130) << n;
         EXPECT_LT(qRed(cor), 60) << n;
         fim += numero(entrada + 8);
