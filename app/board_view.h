@@ -1,7 +1,7 @@
 #pragma once
 
 #include "builder/word_placing.h"
-#include "play/play_context.h"
+#include "gameplay/play_context.h"
 
 /// Shows the board model on the main form's controls, and follows a build word by word.
 class VistaTabuleiro final : public ExibicaoMontagem

@@ -1,5 +1,6 @@
 #include "app/form1.h"
 
+#include "assets/pictures.h"
 #include "shell/center_form.h"
 #include "shell/dpi_adjuster.h"
 #include "shell/screen_dpi.h"
@@ -10,8 +11,6 @@ namespace {
 /// Pitch of the item buttons, in twips.
 constexpr float kPassoBotoes = 315;
 constexpr QColor kCorTabuleiro(0, 130, 198);
-/// The hand's finger tip, in pixels of its picture.
-constexpr QPoint kPontaDaMao(9, 1);
 
 } // namespace
 
@@ -44,7 +43,7 @@ void Form1::Form_Load()
     LeUsadas(m_memoria, Caminho(m_valores.PastaDados, kArquivoUsadas));
     DaForma(m_form, m_valores);
     CentralizaForm(m_form);
-    const QCursor mao = toolkit::Ponteiro(m_c.Image5.GetPicture(), kPontaDaMao);
+    const QCursor mao = toolkit::Ponteiro(m_c.Image5.GetPicture(), kPontoMao);
     m_c.Lbt(0).SetMouseIcon(mao);
     m_c.Text1(0).SetMouseIcon(mao);
     m_c.Label4.SetMouseIcon(mao);

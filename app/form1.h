@@ -2,11 +2,11 @@
 
 #include "app/board_view.h"
 #include "app/game_cycle.h"
-#include "play/clock.h"
-#include "play/commands.h"
-#include "play/hint_bubble.h"
-#include "play/letter_entry.h"
-#include "play/word_check.h"
+#include "gameplay/clock.h"
+#include "gameplay/commands.h"
+#include "gameplay/hint_bubble.h"
+#include "gameplay/letter_entry.h"
+#include "gameplay/word_check.h"
 
 #include <memory>
 

@@ -4,7 +4,7 @@
 #include "bank/question_bank.h"
 #include "bank/used_words.h"
 #include "builder/fill_driver.h"
-#include "play/selection.h"
+#include "gameplay/selection.h"
 
 /// The bank of a run, with what is worked out about it, and the memory of words used before.
 struct DadosBanco

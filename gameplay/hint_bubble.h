@@ -1,6 +1,6 @@
 #pragma once
 
-#include "play/play_context.h"
+#include "gameplay/play_context.h"
 
 /// The bubble with a cell's clues: comes up half a second after the mouse has come to rest on the
 /// cell, stays for three seconds, and goes when the mouse leaves the cells.

@@ -1,4 +1,4 @@
-#include "play/letter_entry.h"
+#include "gameplay/letter_entry.h"
 
 #include "shell/shared_routines.h"
 

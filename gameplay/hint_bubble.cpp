@@ -1,4 +1,4 @@
-#include "play/hint_bubble.h"
+#include "gameplay/hint_bubble.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "play/commands.h"
+#include "gameplay/commands.h"
 
-#include "play/selection.h"
+#include "gameplay/selection.h"
 #include "shell/shared_routines.h"
 #include "shell/sound.h"
 

@@ -1,4 +1,4 @@
-#include "play/selection.h"
+#include "gameplay/selection.h"
 
 #include "shell/sound.h"
 

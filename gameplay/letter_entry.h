@@ -1,6 +1,6 @@
 #pragma once
 
-#include "play/play_context.h"
+#include "gameplay/play_context.h"
 
 #include <functional>
 

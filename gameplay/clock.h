@@ -1,6 +1,6 @@
 #pragma once
 
-#include "play/play_context.h"
+#include "gameplay/play_context.h"
 
 /// The clock on the strip: the distance from HoraInicio to now. Nothing that delays a tick can lose
 /// time.

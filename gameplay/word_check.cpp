@@ -1,6 +1,6 @@
-#include "play/word_check.h"
+#include "gameplay/word_check.h"
 
-#include "play/selection.h"
+#include "gameplay/selection.h"
 #include "shell/shared_routines.h"
 #include "shell/sound.h"
 

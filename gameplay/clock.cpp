@@ -1,4 +1,4 @@
-#include "play/clock.h"
+#include "gameplay/clock.h"
 
 #include "shell/shared_routines.h"
 
