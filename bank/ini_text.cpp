@@ -1,15 +1,18 @@
 #include "bank/ini_text.h"
 
+#include <QByteArrayView>
+
 namespace {
 
 enum class TipoDeLinha { Vazia, Comentario, Cabecalho, Chave };
 
 /// What a line says. `nome` is the section's or the key's name, `valor` all behind the first "=".
+/// Both look into the line's own bytes.
 struct LinhaLida
 {
     TipoDeLinha tipo = TipoDeLinha::Vazia;
-    QByteArray nome;
-    QByteArray valor;
+    QByteArrayView nome;
+    QByteArrayView valor;
 };
 
 bool Branco(char letra)
@@ -22,61 +25,64 @@ bool FimDeLinha(char letra)
     return letra == '\r' || letra == '\n';
 }
 
-QByteArray SemBrancosAntes(const QByteArray &texto)
+QByteArrayView SemBrancosAntes(QByteArrayView texto)
 {
-    qsizetype inicio = 0;
-    while (inicio < texto.size() && Branco(texto[inicio])) {
-        ++inicio;
+    while (!texto.isEmpty() && Branco(texto.front())) {
+        texto = texto.sliced(1);
     }
-    return texto.sliced(inicio);
+    return texto;
 }
 
-QByteArray SemBrancos(const QByteArray &texto)
+QByteArrayView SemBrancos(QByteArrayView texto)
 {
-    auto fim = texto.size();
-    while (fim > 0 && Branco(texto[fim - 1])) {
-        --fim;
+    while (!texto.isEmpty() && Branco(texto.back())) {
+        texto.chop(1);
     }
-    return SemBrancosAntes(texto.first(fim));
+    return SemBrancosAntes(texto);
 }
 
-QByteArray AteNul(const QByteArray &texto)
+QByteArrayView AteNul(QByteArrayView texto)
 {
     const auto nul = texto.indexOf('\0');
     return nul < 0 ? texto : texto.first(nul);
 }
 
-/// An argument of a read or a write as the name that it stands for.
-QByteArray NomePedido(const QByteArray &argumento)
+/// A name as the indexes have it.
+QByteArray NoIndice(QByteArrayView nome)
 {
-    return SemBrancos(AteNul(argumento)).toLower();
+    return nome.toByteArray().toLower();
+}
+
+/// An argument of a read or a write as the name that it stands for.
+QByteArray NomePedido(QByteArrayView argumento)
+{
+    return NoIndice(SemBrancos(AteNul(argumento)));
 }
 
 /// The same as written into a file: what stands before a name goes, what stands behind it stays.
-QByteArray NomeEscrito(const QByteArray &argumento)
+QByteArray NomeEscrito(QByteArrayView argumento)
 {
-    return SemBrancosAntes(AteNul(argumento));
+    return SemBrancosAntes(AteNul(argumento)).toByteArray();
 }
 
-QByteArray SemFim(const QByteArray &linha)
+QByteArrayView SemFim(QByteArrayView linha)
 {
-    auto fim = linha.size();
-    while (fim > 0 && FimDeLinha(linha[fim - 1])) {
-        --fim;
+    while (!linha.isEmpty() && FimDeLinha(linha.back())) {
+        linha.chop(1);
     }
-    return linha.first(fim);
+    return linha;
 }
 
-LinhaLida LeLinha(const QByteArray &linha)
+LinhaLida LeLinha(QByteArrayView linha)
 {
     const auto texto = SemBrancos(SemFim(linha));
     if (texto.isEmpty()) {
         return {};
     }
-    if (texto.startsWith(';')) {
+    if (texto.front() == ';') {
         return {TipoDeLinha::Comentario, {}, {}};
     }
-    const auto fecho = texto.startsWith('[') ? texto.indexOf(']') : -1;
+    const auto fecho = texto.front() == '[' ? texto.indexOf(']') : -1;
     if (fecho > 0) {
         return {TipoDeLinha::Cabecalho, AteNul(SemBrancos(texto.sliced(1, fecho - 1))), {}};
     }
@@ -87,7 +93,7 @@ LinhaLida LeLinha(const QByteArray &linha)
     return {TipoDeLinha::Chave, AteNul(SemBrancos(texto.first(igual))), texto.sliced(igual + 1)};
 }
 
-QByteArray SemAspas(const QByteArray &texto)
+QByteArrayView SemAspas(QByteArrayView texto)
 {
     const bool aspas = texto.size() >= 2 && texto.front() == texto.back() &&
                        (texto.front() == '"' || texto.front() == '\'');
@@ -95,7 +101,7 @@ QByteArray SemAspas(const QByteArray &texto)
 }
 
 /// One past the end of the line that begins at `inicio`, its end included.
-qsizetype FimDaLinha(const QByteArray &bytes, qsizetype inicio)
+qsizetype FimDaLinha(QByteArrayView bytes, qsizetype inicio)
 {
     auto fim = inicio;
     while (fim < bytes.size() && !FimDeLinha(bytes[fim])) {
@@ -110,7 +116,7 @@ qsizetype FimDaLinha(const QByteArray &bytes, qsizetype inicio)
 bool LeComoEscrita(const QByteArray &linha, TipoDeLinha tipo, const QByteArray &nome)
 {
     const auto lida = LeLinha(linha);
-    return FimDaLinha(linha, 0) == linha.size() && lida.tipo == tipo && lida.nome.toLower() == nome;
+    return FimDaLinha(linha, 0) == linha.size() && lida.tipo == tipo && NoIndice(lida.nome) == nome;
 }
 
 } // namespace
@@ -127,7 +133,7 @@ TextoIni::TextoIni(const QByteArray &bytes) : m_secoes(1)
 void TextoIni::AcolheLinha(const QByteArray &linha)
 {
     const auto lida = LeLinha(linha);
-    const auto nome = lida.nome.toLower();
+    const auto nome = NoIndice(lida.nome);
     if (lida.tipo == TipoDeLinha::Cabecalho) {
         if (!m_indice.contains(nome)) {
             m_indice.insert(nome, m_secoes.size());
@@ -156,7 +162,8 @@ QByteArray TextoIni::Valor(const QByteArray &secao, const QByteArray &chave) con
     if (linha == lugar.chaves.constEnd()) {
         return {};
     }
-    return SemAspas(AteNul(SemBrancos(LeLinha(lugar.linhas[*linha]).valor))).left(kMaximoDoValor);
+    const auto valor = SemAspas(AteNul(SemBrancos(LeLinha(lugar.linhas[*linha]).valor)));
+    return valor.first(qMin<qsizetype>(valor.size(), kMaximoDoValor)).toByteArray();
 }
 
 void TextoIni::Escreve(const QByteArray &secao, const QByteArray &chave, const QByteArray &valor)
@@ -167,8 +174,9 @@ void TextoIni::Escreve(const QByteArray &secao, const QByteArray &chave, const Q
     const auto achada = lugar.chaves.constFind(nome);
     const bool nova = achada == lugar.chaves.constEnd();
     const auto posicao = nova ? lugar.fimDasChaves : *achada;
-    const auto grafia = nova ? NomeEscrito(chave) : LeLinha(lugar.linhas[posicao]).nome;
-    const QByteArray linha = grafia + '=' + AteNul(valor) + "\r\n";
+    const auto grafia =
+        nova ? NomeEscrito(chave) : LeLinha(lugar.linhas[posicao]).nome.toByteArray();
+    const QByteArray linha = grafia + '=' + AteNul(valor).toByteArray() + "\r\n";
     if (nova) {
         lugar.linhas.insert(lugar.linhas.begin() + static_cast<std::ptrdiff_t>(posicao), linha);
         lugar.chaves.insert(nome, posicao);
