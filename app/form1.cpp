@@ -19,6 +19,7 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
       m_ambiente(ambiente),
       m_form(toolkit::Moldura::Nenhuma, dpi),
       m_c((forms::Define(m_form, forms::kForm1), m_form)),
+      m_balaoDeFora(m_c.Picture2),
       m_banco(std::make_unique<BancoPerguntas>()),
       m_jogo{m_tabuleiro, valores, m_estado, m_c, ambiente},
       m_vista(m_jogo),

@@ -7,6 +7,7 @@
 #include "gameplay/hint_bubble.h"
 #include "gameplay/letter_entry.h"
 #include "gameplay/word_check.h"
+#include "toolkit/overflow.h"
 
 #include <memory>
 
@@ -38,6 +39,8 @@ private:
     Ambiente &m_ambiente;
     toolkit::Form m_form;
     forms::ControlesForm1 m_c;
+    /// The hint bubble beyond the window's edge.
+    toolkit::Transbordo m_balaoDeFora;
 
     Tabuleiro m_tabuleiro;
     EstadoForm1 m_estado;

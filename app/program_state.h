@@ -23,7 +23,7 @@ struct ValoresPrograma
     bool SomLigado = false;
     /// The display does not run at 96 DPI.
     bool DpiDiferente = false;
-    /// Handle of the window region built last, 0 before the first or where it could not be built.
+    /// Whether the window region built last could be built; 0 before the first.
     int RegiaoJanela = 0;
     /// The player gave up: the solution stands on the board.
     bool Desistiu = false;

@@ -2,6 +2,8 @@
 
 #include "shell/region_runs.h"
 
+#include <vector>
+
 namespace {
 
 /// What is cut out of the windows.
@@ -9,9 +11,9 @@ constexpr QRgb kCorChave = qRgb(255, 0, 0);
 
 } // namespace
 
-std::optional<QRegion> RegiaoDaFigura(const toolkit::Picture &pic, QRgb cor)
+std::optional<QRegion> RegiaoDaFigura(const QImage &pic, QRgb cor)
 {
-    const QImage imagem = pic.Pixels().convertToFormat(QImage::Format_RGB32);
+    const QImage imagem = pic.convertToFormat(QImage::Format_RGB32);
     const auto *pixels = reinterpret_cast<const std::uint32_t *>(imagem.constBits());
     const auto passo = static_cast<size_t>(imagem.bytesPerLine()) / sizeof(std::uint32_t);
     const auto trechos = TrechosDaFigura({{pixels, passo * static_cast<size_t>(imagem.height())},
@@ -22,25 +24,40 @@ std::optional<QRegion> RegiaoDaFigura(const toolkit::Picture &pic, QRgb cor)
     if (!trechos) {
         return std::nullopt;
     }
-    QRegion regiao;
+    std::vector<QRect> retangulos;
+    retangulos.reserve(trechos->size());
     for (const TrechoDaFigura &trecho : *trechos) {
-        regiao += QRect(trecho.x0, trecho.y, trecho.x1 - trecho.x0, 1);
+        retangulos.emplace_back(trecho.x0, trecho.y, trecho.x1 - trecho.x0, 1);
     }
+    // The runs come row by row and from left to right, which is a region's own order.
+    QRegion regiao;
+    regiao.setRects(retangulos.data(), static_cast<int>(retangulos.size()));
     return regiao;
 }
 
 void DaForma(toolkit::Form &form, ValoresPrograma &valores)
 {
-    const auto regiao = RegiaoDaFigura(form.GetPicture(), kCorChave);
-    valores.RegiaoJanela = regiao ? valores.RegiaoJanela + 1 : 0;
-    if (regiao) {
-        form.SetWindowRgn(*regiao);
+    const toolkit::Picture &figura = form.GetPicture();
+    if (!RegiaoDaFigura(figura.Pixels(), kCorChave)) {
+        valores.RegiaoJanela = 0;
+        return;
     }
+    valores.RegiaoJanela = 1;
+    form.SetWindowRgn(
+        [figura](qreal escala) {
+            const QSize tamanho = (QSizeF(figura.Tamanho()) * escala).toSize();
+            // Nearest pixels: a mixed colour would be no key colour.
+            const QImage desenho = figura.ParaEscala(escala).toImage().scaled(tamanho);
+            return RegiaoDaFigura(desenho, kCorChave).value_or(QRegion());
+        },
+        kCorChave);
 }
 
 void ArrastaForm(toolkit::Form &form, const toolkit::Mouse &mouse)
 {
     if (mouse.botoes == Qt::LeftButton) {
-        form.Arrasta();
+        form.Arrasta(mouse);
+    } else {
+        form.Solta();
     }
 }

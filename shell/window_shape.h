@@ -8,7 +8,7 @@
 
 /// Region of `pic`, in its pixels, without those of exactly the colour `cor`; nothing where it
 /// cannot be built.
-std::optional<QRegion> RegiaoDaFigura(const toolkit::Picture &pic, QRgb cor);
+std::optional<QRegion> RegiaoDaFigura(const QImage &pic, QRgb cor);
 
 /// Gives a form the shape of its background picture, without the key colour. Where no region can be
 /// built the window stays a plain rectangle.

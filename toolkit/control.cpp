@@ -184,7 +184,11 @@ bool Control::TrataMouse(QEvent *evento)
 {
     const auto *mouse = static_cast<QMouseEvent *>(evento);
     const bool esquerdo = mouse->button() == Qt::LeftButton;
-    const Mouse dados{mouse->buttons() | mouse->button(), mouse->position().toPoint()};
+    if (evento->type() == QEvent::MouseButtonPress && esquerdo) {
+        m_lugarDoAperto = mouse->globalPosition().toPoint();
+    }
+    const Mouse dados{mouse->buttons() | mouse->button(), mouse->position().toPoint(),
+                      mouse->globalPosition().toPoint(), m_lugarDoAperto};
     // A handler may destroy the control that it belongs to.
     const QPointer<Control> vivo(this);
     const auto chama = [&vivo](const auto &tratador, const auto &...argumentos) {
@@ -213,7 +217,7 @@ bool Control::TrataMouse(QEvent *evento)
         break;
     }
     default:
-        chama(MouseMove, Mouse{mouse->buttons(), dados.lugar});
+        chama(MouseMove, Mouse{mouse->buttons(), dados.lugar, dados.global, dados.aperto});
         break;
     }
     return !vivo || ConsomeMouse();

@@ -29,6 +29,9 @@ struct Mouse
 {
     Qt::MouseButtons botoes;
     QPoint lugar;
+    /// The position on the screen, and that of the press that the movement goes back to.
+    QPoint global = {};
+    QPoint aperto = {};
 };
 
 /// A control of a form: geometry in the units of its container, visibility, z-order, pointer, and
@@ -122,6 +125,7 @@ private:
     bool m_visible = true;
     bool m_enabled = true;
     bool m_apertado = false;
+    QPoint m_lugarDoAperto;
     Font m_font;
     QColor m_backColor = QColor(240, 240, 240);
     QColor m_foreColor = kPreto;

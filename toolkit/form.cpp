@@ -1,5 +1,7 @@
 #include "toolkit/form.h"
 
+#include "toolkit/window_region.h"
+
 #include <algorithm>
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -44,6 +46,7 @@ Form::~Form()
 void Form::SetPicture(const Picture &picture)
 {
     m_picture = picture;
+    m_pintura = picture;
     update();
 }
 
@@ -155,19 +158,30 @@ void Form::Unload()
     }
 }
 
-void Form::Arrasta()
+void Form::Arrasta(const Mouse &mouse)
 {
-    if (QWindow *janela = windowHandle()) {
-        janela->startSystemMove();
+    if (m_aperto != mouse.aperto) {
+        m_aperto = mouse.aperto;
+        m_pegada = mouse.aperto - pos();
+        // The pointer has moved since it was pressed; the system counts from now on.
+        move(mouse.global - m_pegada);
+        m_moveSistema = windowHandle() != nullptr && windowHandle()->startSystemMove();
+    } else if (!m_moveSistema) {
+        move(mouse.global - m_pegada);
     }
 }
 
-void Form::SetWindowRgn(const QRegion &dentro)
+void Form::SetWindowRgn(const std::function<QRegion(qreal)> &regiao, QRgb chave)
 {
-    if (dentro.isEmpty()) {
-        clearMask();
-    } else {
-        setMask(dentro);
+    m_regiao = regiao;
+    m_pintura = m_picture.Coberta(chave);
+    Recorta();
+}
+
+void Form::Recorta()
+{
+    if (m_regiao && windowHandle() != nullptr) {
+        RecortaJanela(*windowHandle(), m_regiao(devicePixelRatioF()));
     }
 }
 
@@ -175,8 +189,9 @@ void Form::paintEvent(QPaintEvent * /*evento*/)
 {
     if (!m_picture.IsNull()) {
         QPainter pintor(this);
-        pintor.drawPixmap(QRect(QPoint(), m_picture.Tamanho()),
-                          m_picture.ParaEscala(devicePixelRatioF()));
+        pintor.setRenderHint(QPainter::SmoothPixmapTransform);
+        pintor.drawPixmap(QRect(QPoint(), m_pintura.Tamanho()),
+                          m_pintura.ParaEscala(devicePixelRatioF()));
     }
 }
 
@@ -223,6 +238,10 @@ void Form::closeEvent(QCloseEvent *evento)
 void Form::showEvent(QShowEvent *evento)
 {
     QWidget::showEvent(evento);
+    Recorta();
+    // Another screen can have another resolution.
+    QObject::connect(windowHandle(), &QWindow::screenChanged, this, &Form::Recorta,
+                     Qt::UniqueConnection);
     m_ativadoNestaMostra = false;
     // Where no window manager tells us that we are active, being shown must do.
     QTimer::singleShot(0, this, [this] {

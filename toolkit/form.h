@@ -5,6 +5,7 @@
 #include "toolkit/picture_box.h"
 
 #include <memory>
+#include <optional>
 #include <QWidget>
 #include <vector>
 
@@ -68,12 +69,15 @@ public:
     /// Closes the form and ends the wait of ShowModal.
     void Unload();
 
-    /// Lets the system move the window with the pointer, as if its title bar had been grabbed. To
-    /// be called with the left button down.
-    void Arrasta();
-    /// Cuts the window to the picture's pixels that are not of the key colour. `dentro` is the
-    /// region in pixels of the picture; an empty one leaves the window a rectangle.
-    void SetWindowRgn(const QRegion &dentro);
+    /// Moves the window with the pointer, as if its title bar had been grabbed: by the system where
+    /// it can, else by the program. To be called at each movement with the left button down.
+    void Arrasta(const Mouse &mouse);
+    /// The button is no longer down: a later press takes hold of the window anew.
+    void Solta() { m_aperto.reset(); }
+    /// Cuts the window to a region. `regiao` gives it in device pixels for a screen of `escala`
+    /// device pixels to the pixel; an empty one leaves the window a rectangle. `chave` is the
+    /// colour of the picture's pixels that lie outside: they are never shown.
+    void SetWindowRgn(const std::function<QRegion(qreal escala)> &regiao, QRgb chave);
 
     /// Fires when the form becomes the active window, the first time at the latest when it is
     /// shown.
@@ -105,9 +109,17 @@ private:
     Control &Guarda(std::unique_ptr<Control> controle);
     void MostraTamanho();
     void DisparaActivate();
+    void Recorta();
 
     int m_dpi;
     Picture m_picture;
+    /// The picture as it is painted, without the key colour.
+    Picture m_pintura;
+    std::function<QRegion(qreal)> m_regiao;
+    /// The press that the drag under way goes back to, and where it holds the window.
+    std::optional<QPoint> m_aperto;
+    QPoint m_pegada;
+    bool m_moveSistema = false;
     float m_left = 0;
     float m_top = 0;
     float m_width = 0;

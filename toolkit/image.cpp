@@ -1,5 +1,7 @@
 #include "toolkit/image.h"
 
+#include "toolkit/thin_frame.h"
+
 #include <QPainter>
 
 namespace toolkit {
@@ -49,8 +51,7 @@ void Image::Pinta(QPainter &pintor, QSize tamanho)
         pintor.drawPixmap(alvo, m_picture.ParaEscala(pintor.device()->devicePixelRatioF()));
     }
     if (m_borda != 0) {
-        pintor.setPen(kPreto);
-        pintor.drawRect(0, 0, tamanho.width() - 1, tamanho.height() - 1);
+        PintaMoldura(pintor, tamanho, kPreto);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "toolkit/label.h"
 
+#include "toolkit/thin_frame.h"
+
 #include <QPainter>
 #include <QStringList>
 
@@ -89,8 +91,7 @@ void Label::Pinta(QPainter &pintor, QSize tamanho)
         pintor.fillRect(QRect(QPoint(), tamanho), BackColor());
     }
     if (m_borda != 0) {
-        pintor.setPen(kPreto);
-        pintor.drawRect(0, 0, tamanho.width() - 1, tamanho.height() - 1);
+        PintaMoldura(pintor, tamanho, kPreto);
     }
     pintor.setFont(FonteQt());
     pintor.setPen(ForeColor());

@@ -1,6 +1,36 @@
 #include "toolkit/picture.h"
 
+#include <algorithm>
+
 namespace toolkit {
+
+namespace {
+
+/// Paints over the key pixels at both ends of a row, from the outermost other pixel on.
+void CobreLinha(QRgb *linha, int largura, QRgb cor)
+{
+    const auto chave = [cor](QRgb pixel) { return (pixel & RGB_MASK) == (cor & RGB_MASK); };
+    QRgb *fim = linha + largura;
+    QRgb *primeiro = std::find_if_not(linha, fim, chave);
+    if (primeiro == fim) {
+        return;
+    }
+    std::fill(linha, primeiro, *primeiro);
+    for (QRgb *pixel = primeiro + 1; pixel != fim; ++pixel) {
+        *pixel = chave(*pixel) ? pixel[-1] : *pixel;
+    }
+}
+
+QImage Cobre(QImage imagem, QRgb cor)
+{
+    imagem.convertTo(QImage::Format_RGB32);
+    for (int y = 0; y < imagem.height(); ++y) {
+        CobreLinha(reinterpret_cast<QRgb *>(imagem.scanLine(y)), imagem.width(), cor);
+    }
+    return imagem;
+}
+
+} // namespace
 
 Picture::Picture(const QString &nome)
 {
@@ -15,6 +45,17 @@ Picture::Picture(const QString &nome)
         m_desenhos[k] = QPixmap::fromImage(imagem);
         m_desenhos[k].setDevicePixelRatio(static_cast<qreal>(k) + 1);
     }
+}
+
+Picture Picture::Coberta(QRgb cor) const
+{
+    Picture coberta;
+    coberta.m_pixels = Cobre(m_pixels, cor);
+    for (size_t k = 0; k < m_desenhos.size(); ++k) {
+        coberta.m_desenhos[k] = QPixmap::fromImage(Cobre(m_desenhos[k].toImage(), cor));
+        coberta.m_desenhos[k].setDevicePixelRatio(m_desenhos[k].devicePixelRatio());
+    }
+    return coberta;
 }
 
 const QPixmap &Picture::ParaEscala(qreal escala) const

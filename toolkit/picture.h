@@ -23,6 +23,9 @@ public:
     [[nodiscard]] QSize Tamanho() const { return m_pixels.size(); }
     /// The natural picture's pixels, from which a window region is cut.
     [[nodiscard]] const QImage &Pixels() const { return m_pixels; }
+    /// The same picture with the pixels of exactly the colour `cor` painted over by their
+    /// neighbours in the row.
+    [[nodiscard]] Picture Coberta(QRgb cor) const;
     /// The drawing that is sharp on a screen of `escala` device pixels to the pixel: the smallest
     /// that is large enough. Its devicePixelRatio is its own scale.
     [[nodiscard]] const QPixmap &ParaEscala(qreal escala) const;

@@ -1,5 +1,7 @@
 #include "toolkit/picture_box.h"
 
+#include "toolkit/thin_frame.h"
+
 #include <QPainter>
 
 namespace toolkit {
@@ -83,8 +85,7 @@ void PictureBox::Pinta(QPainter &pintor, QSize tamanho)
                         ForeColor());
     }
     if (m_borda != 0) {
-        pintor.setPen(kPreto);
-        pintor.drawRect(0, 0, tamanho.width() - 1, tamanho.height() - 1);
+        PintaMoldura(pintor, tamanho, kPreto);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "toolkit/text_box.h"
 
+#include "toolkit/thin_frame.h"
+
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QLineEdit>
@@ -20,8 +22,7 @@ protected:
     {
         QLineEdit::paintEvent(evento);
         QPainter pintor(this);
-        pintor.setPen(kPreto);
-        pintor.drawRect(0, 0, width() - 1, height() - 1);
+        PintaMoldura(pintor, size(), kPreto);
     }
 
     void contextMenuEvent(QContextMenuEvent *evento) override
