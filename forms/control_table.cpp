@@ -27,9 +27,12 @@ public:
         controle.SetBackColor(m_def.fundo);
         controle.SetEnabled(m_def.habilitado);
         // The table counts in twips, a container may count in pixels.
-        const float fator = controle.GetOrigem().porPixel / toolkit::TwipsPorPixel(m_form.Dpi());
-        controle.Move(m_def.left * fator, m_def.top * fator, m_def.width * fator,
-                      m_def.height * fator);
+        const auto naEscala = [para = controle.GetOrigem().porPixel,
+                               de = toolkit::TwipsPorPixel(m_form.Dpi())](float twips) {
+            return twips * para / de;
+        };
+        controle.Move(naEscala(m_def.left), naEscala(m_def.top), naEscala(m_def.width),
+                      naEscala(m_def.height));
         controle.SetVisible(m_def.visivel);
     }
 
