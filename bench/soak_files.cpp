@@ -184,7 +184,7 @@ int main(int argc, char **argv)
     }
     std::printf(
         "%d rounds, all files whole; killed before the first file: %d, among the three: %d, "
-        "after the last: %d; killed inside a write: %d\n",
+        "after the last: %d; temporary files left behind: %d\n",
         rodadas, contagem.antes, contagem.entre, contagem.depois, contagem.restos);
     return 0;
 }

@@ -14,7 +14,7 @@
 namespace {
 
 const std::vector<QByteArray> kNomes = {"s", "T", " s ", "", "\xC9", "jogo4", "k", "Nome"};
-const std::vector<QByteArray> kChaves = {"k", "J", "\tk", "", "\xE9", "Tempo", "a=b", "[s"};
+const std::vector<QByteArray> kChaves = {"k", "J", "\tk", "", "\xE9", "Tempo", "a=b", "[s", ";c"};
 const std::vector<QByteArray> kValores = {"", "1", " x ", "\"q\"", "a\nb", QByteArray(300, 'a')};
 
 const std::vector<QByteArray> kPedacosIni = {"[",

@@ -81,7 +81,7 @@ TEST(TextoIni, FindsTheFirstKeyOfTheFirstSection)
         {"first key without =", "[s]\nk\nk=2", ""},
         {"key of the section behind", "[s]\n[t]\nk=2", ""},
         {"comment", "[s]\n ;k=1\nk=2", "2"},
-        {"comments are no keys", "[s]\n;k=1", "", "s", ";k"},
+        {"comments are no keys", "[s]\n ;k=1", "", "s", ";k"},
         {"# opens no comment", "[s]\n#k=1", "1", "s", "#k"},
         {"empty key", "[s]\n = v", "v", "s", ""},
         {"before the first section", "k=v\n[s]", ""},
