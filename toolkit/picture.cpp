@@ -1,5 +1,7 @@
 #include "toolkit/picture.h"
 
+#include "assets/pictures.h"
+
 #include <algorithm>
 
 namespace toolkit {
@@ -30,42 +32,46 @@ QImage Cobre(QImage imagem, QRgb cor)
     return imagem;
 }
 
+QImage Carrega(const QString &nome, size_t vezes)
+{
+    constexpr std::array sufixos = {u"", u"@2x", u"@3x"};
+    const QImage imagem(CaminhoFigura(nome + QString::fromUtf16(sufixos[vezes])));
+    Q_ASSERT_X(!imagem.isNull(), "Picture", qPrintable(nome));
+    return imagem;
+}
+
 } // namespace
 
 Picture::Picture(const QString &nome)
+    : m_conteudo(std::make_shared<Conteudo>(Conteudo{nome, Carrega(nome, 0), {}, {}}))
 {
-    constexpr std::array sufixos = {u"", u"@2x", u"@3x"};
-    for (size_t k = 0; k < sufixos.size(); ++k) {
-        QImage imagem(
-            QStringLiteral(":/figuras/%1%2.png").arg(nome, QString::fromUtf16(sufixos[k])));
-        Q_ASSERT_X(!imagem.isNull(), "Picture", qPrintable(nome));
-        if (k == 0) {
-            m_pixels = imagem;
-        }
-        m_desenhos[k] = QPixmap::fromImage(imagem);
-        m_desenhos[k].setDevicePixelRatio(static_cast<qreal>(k) + 1);
-    }
 }
 
 Picture Picture::Coberta(QRgb cor) const
 {
     Picture coberta;
-    coberta.m_pixels = Cobre(m_pixels, cor);
-    for (size_t k = 0; k < m_desenhos.size(); ++k) {
-        coberta.m_desenhos[k] = QPixmap::fromImage(Cobre(m_desenhos[k].toImage(), cor));
-        coberta.m_desenhos[k].setDevicePixelRatio(m_desenhos[k].devicePixelRatio());
-    }
+    coberta.m_conteudo = std::make_shared<Conteudo>(
+        Conteudo{m_conteudo->nome, Cobre(m_conteudo->pixels, cor), cor, {}});
     return coberta;
 }
 
 const QPixmap &Picture::ParaEscala(qreal escala) const
 {
     constexpr qreal kFolga = 0.01;
+    auto &desenhos = m_conteudo->desenhos;
     size_t k = 0;
-    while (k + 1 < m_desenhos.size() && static_cast<qreal>(k) + 1 + kFolga < escala) {
+    while (k + 1 < desenhos.size() && static_cast<qreal>(k) + 1 + kFolga < escala) {
         ++k;
     }
-    return m_desenhos[k];
+    if (desenhos[k].isNull()) {
+        QImage imagem = k == 0 ? m_conteudo->pixels : Carrega(m_conteudo->nome, k);
+        if (k > 0 && m_conteudo->coberta) {
+            imagem = Cobre(imagem, *m_conteudo->coberta);
+        }
+        desenhos[k] = QPixmap::fromImage(imagem);
+        desenhos[k].setDevicePixelRatio(static_cast<qreal>(k) + 1);
+    }
+    return desenhos[k];
 }
 
 QCursor Ponteiro(const Picture &figura, QPoint ponta)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <memory>
+#include <optional>
 #include <QCursor>
 #include <QImage>
 #include <QPixmap>
@@ -9,20 +11,21 @@
 namespace toolkit {
 
 /// A picture of the game: one drawing at its natural size and at twice and three times that size.
+/// The larger ones are loaded when a screen asks for them. Copies share what is loaded.
 class Picture
 {
 public:
     Picture() = default;
 
-    /// Loads `:/figuras/<nome>.png` with its `@2x` and `@3x`. The pictures are part of the
-    /// executable, so a name that does not exist is a fault of the program.
+    /// Loads `:/figuras/<nome>.png`; its `@2x` and `@3x` stand beside it. The pictures are part of
+    /// the executable, so a name that does not exist is a fault of the program.
     explicit Picture(const QString &nome);
 
-    [[nodiscard]] bool IsNull() const { return m_pixels.isNull(); }
+    [[nodiscard]] bool IsNull() const { return !m_conteudo; }
     /// Natural size in pixels.
-    [[nodiscard]] QSize Tamanho() const { return m_pixels.size(); }
+    [[nodiscard]] QSize Tamanho() const { return m_conteudo ? m_conteudo->pixels.size() : QSize(); }
     /// The natural picture's pixels, from which a window region is cut.
-    [[nodiscard]] const QImage &Pixels() const { return m_pixels; }
+    [[nodiscard]] const QImage &Pixels() const { return m_conteudo->pixels; }
     /// The same picture with the pixels of exactly the colour `cor` painted over by their
     /// neighbours in the row.
     [[nodiscard]] Picture Coberta(QRgb cor) const;
@@ -31,8 +34,15 @@ public:
     [[nodiscard]] const QPixmap &ParaEscala(qreal escala) const;
 
 private:
-    QImage m_pixels;
-    std::array<QPixmap, 3> m_desenhos;
+    struct Conteudo
+    {
+        QString nome;
+        QImage pixels;
+        std::optional<QRgb> coberta;
+        std::array<QPixmap, 3> desenhos;
+    };
+
+    std::shared_ptr<Conteudo> m_conteudo;
 };
 
 /// The pointer drawn in `figura`; `ponta` is its hot spot, in the picture's pixels.
