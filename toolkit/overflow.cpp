@@ -34,7 +34,9 @@ void Transbordo::Acompanha()
 {
     const QWidget *janela = m_alvo.window();
     const QRect lugar(m_alvo.mapTo(janela, QPoint()), m_alvo.size());
-    if (!m_alvo.isVisible() || janela->rect().contains(lugar)) {
+    // A box that lies wholly outside is kept there on purpose.
+    if (!m_alvo.isVisible() || janela->rect().contains(lugar) ||
+        !janela->rect().intersects(lugar)) {
         hide();
         return;
     }
