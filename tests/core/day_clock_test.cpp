@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
+#include <utility>
+
 TEST(RelogioDoDia, CountsOnFromTheTimeOfDayAtStart)
 {
     double continuos = 5000.25; // any origin
@@ -14,14 +17,24 @@ TEST(RelogioDoDia, CountsOnFromTheTimeOfDayAtStart)
     EXPECT_DOUBLE_EQ(relogio.Agora(), 89998.75); // midnight is no event
 }
 
-TEST(SegundosContinuos, GoesOnInFractionsAndNeverBack)
+TEST(SegundosContinuos, CountsSecondsAsAnotherSteadyClockDoes)
 {
-    // Wait for the clock's next step, however long a step is on this system.
+    // However long the machine stalls: one interval of the other clock lies round ours, one inside
+    // it.
+    constexpr double kPassoDoRelogio = 0.02;
+    QElapsedTimer fora;
+    QElapsedTimer dentro;
+    fora.start();
     const double antes = SegundosContinuos();
-    double depois = antes;
-    while (depois == antes) {
-        depois = SegundosContinuos();
+    dentro.start();
+    double agora = antes;
+    while (dentro.elapsed() < 60) {
+        const double anterior = std::exchange(agora, SegundosContinuos());
+        ASSERT_GE(agora, anterior);
     }
-    EXPECT_GT(depois, antes);
-    EXPECT_LT(depois - antes, 0.9);
+    const double menos = static_cast<double>(dentro.nsecsElapsed()) * 1e-9;
+    const double passados = SegundosContinuos() - antes;
+    const double mais = static_cast<double>(fora.nsecsElapsed()) * 1e-9;
+    EXPECT_GE(passados, menos - kPassoDoRelogio);
+    EXPECT_LE(passados, mais + kPassoDoRelogio);
 }
