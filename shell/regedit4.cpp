@@ -80,7 +80,7 @@ QString LeitorReg4::ProximaLinha()
 {
     auto fim = m_bytes.indexOf(kFimDeLinha, m_inicio);
     fim = fim < 0 ? m_bytes.size() : fim;
-    const QString linha = DeCodePage(m_bytes.sliced(m_inicio, fim - m_inicio));
+    QString linha = DeCodePage(m_bytes.sliced(m_inicio, fim - m_inicio));
     m_inicio = qMin(m_bytes.size(), fim + 2);
     return linha;
 }

@@ -1,6 +1,7 @@
 #include "shell/registry_path.h"
 
 #include "bank/codepage.h"
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -24,6 +25,18 @@ constexpr std::array<Raiz, kQtdRaizes> kRaizes = {{
 constexpr const Raiz &kUsuario = kRaizes[0];
 constexpr const Raiz &kMaquina = kRaizes[1];
 
+/// The root whose name `forma` stands at the start of `texto`, or nullptr.
+const Raiz *RaizNoComeco(QStringView texto, QStringView Raiz::*forma)
+{
+    if (texto[0] != u'H' && texto[0] != u'h') {
+        return nullptr;
+    }
+    const auto *achada = std::find_if(kRaizes.begin(), kRaizes.end(), [&](const Raiz &raiz) {
+        return texto.startsWith(raiz.*forma, Qt::CaseInsensitive);
+    });
+    return achada == kRaizes.end() ? nullptr : &*achada;
+}
+
 /// `texto` with each root's name `de` replaced by its name `para`. One pass is enough: no
 /// replacement makes a new name with what stands beside it.
 QString TrocaRaizes(const QString &texto, QStringView Raiz::*de, QStringView Raiz::*para)
@@ -31,16 +44,10 @@ QString TrocaRaizes(const QString &texto, QStringView Raiz::*de, QStringView Rai
     QString resultado;
     resultado.reserve(texto.size());
     for (qsizetype k = 0; k < texto.size();) {
-        const Raiz *achada = nullptr;
-        for (const Raiz &raiz : kRaizes) {
-            if (QStringView(texto).sliced(k).startsWith(raiz.*de, Qt::CaseInsensitive)) {
-                achada = &raiz;
-                break;
-            }
-        }
-        if (achada != nullptr) {
-            resultado += achada->*para;
-            k += (achada->*de).size();
+        const Raiz *raiz = RaizNoComeco(QStringView(texto).sliced(k), de);
+        if (raiz != nullptr) {
+            resultado += raiz->*para;
+            k += (raiz->*de).size();
         } else {
             resultado += texto[k++];
         }

@@ -117,7 +117,7 @@ CodigoRegistro RegistroPortatil::RegCreateKeyA(ChaveRegistro base, const QByteAr
 CodigoRegistro RegistroPortatil::RegOpenKeyA(ChaveRegistro base, const QByteArray &sub,
                                              ChaveRegistro &chave)
 {
-    return RegOpenKeyExA(base, sub, kAcessoTotal, chave);
+    return RegistroPortatil::RegOpenKeyExA(base, sub, kAcessoTotal, chave);
 }
 
 CodigoRegistro RegistroPortatil::RegOpenKeyExA(ChaveRegistro base, const QByteArray &sub,

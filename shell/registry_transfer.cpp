@@ -4,6 +4,7 @@
 #include "shell/registry_key.h"
 #include <QFile>
 #include <QFileInfo>
+#include <utility>
 
 namespace {
 
@@ -66,7 +67,7 @@ bool clsRegistryAccess::ExportaChave(const QString &sPath, const QString &sRegFi
     if (subchaves) {
         EnumKeys(caminho, nomes);
     }
-    for (const QString &nome : qAsConst(nomes)) {
+    for (const QString &nome : std::as_const(nomes)) {
         if (!ExportaChave(caminho + u'\\' + nome, sRegFile, subchaves, saida)) {
             return false;
         }
