@@ -1,6 +1,7 @@
 #include "app/form1.h"
 
 #include "assets/pictures.h"
+#include "shell/about.h"
 #include "shell/center_form.h"
 #include "shell/dpi_adjuster.h"
 #include "shell/screen_dpi.h"
@@ -145,7 +146,10 @@ void Form1::LigaComandos()
     m_comandos.AbreCarregar = [] {};
     m_comandos.AbreSalvar = [] {};
     m_comandos.AbreRanking = [] {};
-    m_comandos.AbreSobre = [] {};
+    m_comandos.AbreSobre = [this] {
+        FrmSobre sobre(m_valores, m_ambiente, m_form.Dpi(), LugaresDoPrograma(m_valores));
+        sobre.ShowModal(&m_form);
+    };
 }
 
 void Form1::LigaRelogio()

@@ -30,6 +30,8 @@ struct ValoresPrograma
     /// Moment, in seconds of the program's clock, from which the game's time counts. Penalties move
     /// it back.
     double HoraInicio = 0;
+    /// Address of the file of a newer version; empty until the player has asked for it.
+    QString LinkAtualizacao;
 };
 
 struct EstadoForm1

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QString>
+#include <QTemporaryFile>
+#include <QUrl>
+
+/// The address as one that the program may fetch: http or https, with a host. White space at the
+/// ends is passed over. Nothing for any other address.
+std::optional<QUrl> EnderecoDaRede(const QString &endereco);
+
+/// What a read fetches and what it is called.
+struct PedidoDeLeitura
+{
+    QString endereco;
+    /// Name of the read, under which its events come and it can be cancelled.
+    QString sID;
+    /// Folder in which the data lie until the read ends; made if it is missing.
+    QString pasta;
+    /// Most bytes that the reply may have, 0 for any number. A longer one is stopped and counts as
+    /// failed.
+    qint64 maximo = 0;
+};
+
+/// Reads web addresses into temporary files while the windows go on living.
+///
+/// Each read asks for a fresh copy, follows at most five redirects, never to a less safe scheme,
+/// and takes a secure server only with a certificate that the system trusts. What is not a whole
+/// reply of status 2xx is a failure, whatever the reason. No temporary file outlasts its read.
+class LeiturasAssincronas : public QObject
+{
+public:
+    LeiturasAssincronas();
+    ~LeiturasAssincronas() override;
+
+    /// Starts a read and returns at once. The events come later, also where the read cannot even
+    /// begin. While a read of the same name runs, nothing is started.
+    void Comeca(const PedidoDeLeitura &pedido);
+    /// Ends a read without another event. A name that does not exist passes in silence.
+    void Cancela(const QString &sID);
+    void CancelaTodas();
+
+    /// Data have come: bytes read so far, and bytes expected or 0 where the server does not say.
+    std::function<void(const QString &sID, qint64 bytes, qint64 total)> Progresso;
+    /// The read has ended: its temporary file, or null if the read failed, and the bytes read. The
+    /// file is removed behind the event unless the handler turns its autoRemove off.
+    std::function<void(const QString &sID, QTemporaryFile *arquivo, qint64 bytes)> Fim;
+
+private:
+    struct Leitura
+    {
+        QNetworkReply *resposta = nullptr;
+        std::unique_ptr<QTemporaryFile> arquivo;
+        qint64 bytes = 0;
+        qint64 maximo = 0;
+    };
+    enum class Passo { Segue, Falha };
+
+    void LigaEventos(const QString &sID, const QNetworkReply *resposta);
+    void AoChegarem(const QString &sID);
+    void AoTerminar(const QString &sID);
+    Passo Guarda(Leitura &leitura);
+    void Encerra(const QString &sID, bool inteira);
+    void Solta(Leitura &leitura);
+
+    QNetworkAccessManager m_rede;
+    std::map<QString, Leitura> m_leituras;
+};
