@@ -5,8 +5,12 @@
 #include <variant>
 
 #include "bank/ini_text.h"
+#include "bank/question_bank.h"
+#include "builder/word_index.h"
 #include "records/ranking_table.h"
 #include "records/save_slot.h"
+#include "shell/registry_access.h"
+#include "shell/registry_store_portable.h"
 #include "tests/core/slow_ini.h"
 #include "tests/core/test_board.h"
 #include "tests/core/test_files.h"
@@ -159,6 +163,25 @@ QString ProvaRanking(const QString &arquivo)
     return lugar >= 0 && lugar <= kLugares ? QString() : QStringLiteral("place");
 }
 
+QString ProvaBanco(const QByteArray &dados, Dado &)
+{
+    const auto banco = std::make_unique<BancoPerguntas>();
+    CarregaRegistros(*banco, dados);
+    const IndiceBanco indice(*banco);
+    const bool certo =
+        banco->QtdPerguntas == qMin<qsizetype>(dados.size() / kBytesRegistro, kMaxPerguntas) &&
+        banco->BancoPalavra[0].isEmpty() && indice.QtdTextos() <= banco->QtdPerguntas;
+    return certo ? QString() : QStringLiteral("number of entries");
+}
+
+QString ProvaReg4(const QString &arquivo)
+{
+    RegistroPortatil armazem;
+    clsRegistryAccess registro(armazem);
+    registro.ImportFromReg(arquivo);
+    return armazem.QtdAbertas() == 0 ? QString() : QStringLiteral("a key left open");
+}
+
 } // namespace
 
 std::vector<Alvo> Alvos()
@@ -170,8 +193,19 @@ std::vector<Alvo> Alvos()
                                "\r\nTempo=1e9", "-", "H", "V", "\r\nPonto7=", "\r\nTempo=nan"}) {
         slotPedacos.emplace_back(pedaco);
     }
-    return {{"reading", textos, kPedacosIni, ProvaLeitura},
-            {"writing", textos, kPedacosIni, ProvaGravacao},
-            AlvoDeArquivo({"slot", {SlotBom()}, slotPedacos, {}}, ProvaSlot),
-            AlvoDeArquivo({"ranking", {RankingBom()}, slotPedacos, {}}, ProvaRanking)};
+    return {
+        {"reading", textos, kPedacosIni, ProvaLeitura},
+        {"writing", textos, kPedacosIni, ProvaGravacao},
+        AlvoDeArquivo({"slot", {SlotBom()}, slotPedacos, {}}, ProvaSlot),
+        AlvoDeArquivo({"ranking", {RankingBom()}, slotPedacos, {}}, ProvaRanking),
+        {"bank",
+         {QByteArray("  CASA").leftJustified(kBytesRegistro, ' ').repeated(5)},
+         {" ", QByteArray(1, '\0'), QByteArray(kBytesRegistro, 'A'), "\xC7\xC3O"},
+         ProvaBanco},
+        AlvoDeArquivo({"reg4",
+                       {"REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\a]\r\n@=\"x\"\r\n\"b\"=hex:00,FF\r\n"
+                        "\"d\"=dword:0000000A\r\n\r\n[-HKEY_CURRENT_USER\\a]\r\n"},
+                       {"[", "]", "\"", "=", "hex:", "dword:", "-", "\r\n", "HKLM\\x", ";", "@"},
+                       {}},
+                      ProvaReg4)};
 }
