@@ -1,0 +1,122 @@
+#include "sample_banks.h"
+
+#include "bank/codepage.h"
+#include <random>
+#include <set>
+
+namespace {
+
+int Ate(std::mt19937_64 &gerador, qsizetype n)
+{
+    return static_cast<int>(gerador() % static_cast<std::uint64_t>(n));
+}
+
+BancoPerguntas BancoDe(const QByteArray &registros)
+{
+    BancoPerguntas banco;
+    CarregaRegistros(banco, registros);
+    return banco;
+}
+
+char LetraDe(std::mt19937_64 &gerador, const QByteArray &letras)
+{
+    return letras[Ate(gerador, letras.size())];
+}
+
+} // namespace
+
+QByteArray RegistrosDe(const std::vector<QByteArray> &palavras)
+{
+    QByteArray bytes;
+    int entrada = 0;
+    for (const QByteArray &palavra : palavras) {
+        bytes += palavra.leftJustified(15, ' ', true);
+        bytes += ("pista " + QByteArray::number(++entrada)).leftJustified(60, ' ');
+        bytes += static_cast<char>(entrada % 256);
+    }
+    return bytes;
+}
+
+QByteArray SorteiaRegistros(const FeitioBanco &feitio, std::uint64_t semente)
+{
+    std::mt19937_64 gerador(semente);
+    std::vector<QByteArray> palavras;
+    while (palavras.size() < size_t(feitio.quantas)) {
+        const int sorte = Ate(gerador, 100);
+        QByteArray palavra;
+        if (sorte < feitio.repetidas && !palavras.empty()) {
+            palavra = palavras[size_t(Ate(gerador, qsizetype(palavras.size())))];
+        } else if (sorte < 100 - feitio.vazias) {
+            const int n = feitio.menor + Ate(gerador, feitio.maior - feitio.menor + 1);
+            while (palavra.size() < n) {
+                palavra += LetraDe(gerador, feitio.letras);
+            }
+        }
+        palavras.push_back(palavra);
+    }
+    return RegistrosDe(palavras);
+}
+
+std::vector<QByteArray> PalavrasDeSilabas(int quantas, std::uint64_t semente,
+                                          const ParteDosComprimentos &partes)
+{
+    QByteArray comprimentos;
+    for (size_t k = 0; k < partes.size(); ++k) {
+        comprimentos += QByteArray(partes[k], static_cast<char>(3 + k));
+    }
+    std::mt19937_64 gerador(semente);
+    std::vector<QByteArray> palavras;
+    std::set<QByteArray> vistas;
+    while (palavras.size() < size_t(quantas)) {
+        const auto n = static_cast<unsigned char>(LetraDe(gerador, comprimentos));
+        bool vogal = Ate(gerador, 4) == 0;
+        QByteArray palavra;
+        while (palavra.size() < n) {
+            palavra +=
+                LetraDe(gerador, vogal ? "AAAAAEEEEIIIOOOOU" : "BCCDDFGJLLMMNNPPRRRRSSSTTTVZ");
+            vogal = !vogal || Ate(gerador, 12) == 0;
+        }
+        if (vistas.insert(palavra).second) {
+            palavras.push_back(palavra);
+        }
+    }
+    return palavras;
+}
+
+std::vector<QString> LePalavrasLento(const QByteArray &registros)
+{
+    std::vector<QString> palavras(1);
+    for (qsizetype r = 0; r < 3000 && (r + 1) * 76 <= registros.size(); ++r) {
+        QString campo = DeCodePage(registros.mid(r * 76, 15));
+        while (campo.startsWith(u' ')) {
+            campo.remove(0, 1);
+        }
+        while (campo.endsWith(u' ')) {
+            campo.chop(1);
+        }
+        palavras.push_back(campo);
+    }
+    return palavras;
+}
+
+Oficina::Oficina(const QByteArray &registros) : banco(BancoDe(registros)), indice(banco) {}
+
+DadosMontagem Oficina::Dados(Acaso &acaso, BuscaUsadas busca)
+{
+    return {tabuleiro, banco, indice, memoria, acaso, nada, busca};
+}
+
+bool Oficina::Tenta(Acaso &acaso, BuscaUsadas busca)
+{
+    ZeraTabuleiro(tabuleiro);
+    return CarregaPalavras(Dados(acaso, busca)) == FimMontagem::Completa;
+}
+
+int Oficina::Monta(Acaso &acaso, BuscaUsadas busca)
+{
+    int falhas = 0;
+    while (!Tenta(acaso, busca)) {
+        ++falhas;
+    }
+    return falhas;
+}
