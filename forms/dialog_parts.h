@@ -6,8 +6,8 @@
 
 namespace forms {
 
-/// A place on a form, in twips.
-struct Lugar
+/// Place and size on a form, in twips.
+struct Retangulo
 {
     float left;
     float top;
@@ -19,9 +19,9 @@ struct Lugar
 struct Contorno
 {
     const char16_t *titulo;
-    Lugar lugarDoTitulo;
-    Lugar tiraDeArrasto;
-    Lugar zonaDeFechar;
+    Retangulo lugarDoTitulo;
+    Retangulo tiraDeArrasto;
+    Retangulo zonaDeFechar;
     float ajustadorLeft;
     float ajustadorTop;
 };

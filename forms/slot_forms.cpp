@@ -18,12 +18,12 @@ constexpr float kPassoSlots = 405;
 struct DefLista
 {
     Contorno contorno;
-    Lugar primeiroSlot;
-    Lugar cancelar;
+    Retangulo primeiroSlot;
+    Retangulo cancelar;
     const char16_t *vazio;
 };
 
-constexpr DefControle LabelDaLista(int indice, const Lugar &lugar, const char16_t *texto)
+constexpr DefControle LabelDaLista(int indice, const Retangulo &lugar, const char16_t *texto)
 {
     return {.tipo = Tipo::Label,
             .nome = u"LbSave",
@@ -41,7 +41,7 @@ constexpr DefControle LabelDaLista(int indice, const Lugar &lugar, const char16_
 constexpr std::array<DefControle, kLbCancelar + 4> Lista(const DefLista &lista)
 {
     std::array<DefControle, kLbCancelar + 4> controles{};
-    Lugar lugar = lista.primeiroSlot;
+    Retangulo lugar = lista.primeiroSlot;
     for (int n = 1; n < kLbCancelar; ++n) {
         controles[static_cast<size_t>(n) - 1] = LabelDaLista(n, lugar, lista.vazio);
         lugar.top += kPassoSlots;
