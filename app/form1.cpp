@@ -1,6 +1,10 @@
 #include "app/form1.h"
 
 #include "assets/pictures.h"
+#include "records/load_form.h"
+#include "records/ranking_check.h"
+#include "records/ranking_form.h"
+#include "records/save_form.h"
 #include "shell/about.h"
 #include "shell/center_form.h"
 #include "shell/dpi_adjuster.h"
@@ -29,12 +33,14 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
       m_verificacao(m_jogo, m_selecao),
       m_balao(m_jogo),
       m_relogio(m_jogo),
-      m_comandos(m_jogo, m_selecao)
+      m_comandos(m_jogo, m_selecao),
+      m_carga(m_jogo, {m_vista, m_selecao, m_entrada, m_verificacao})
 {
     m_form.SetIcone(QStringLiteral("Icone"));
     LigaTabuleiro();
     LigaBalao();
     LigaComandos();
+    LigaDialogos();
     LigaRelogio();
     Form_Load();
 }
@@ -118,7 +124,6 @@ void Form1::LigaTabuleiro()
     };
     m_entrada.VerificaPalavra = [this](int i) { m_verificacao.VerificaPalavra(i); };
     m_selecao.SemCelulaLivre = [this](int i) { m_verificacao.VerificaPalavra(i); };
-    m_verificacao.VerificaRecords = [](int) { return false; };
 }
 
 void Form1::LigaBalao()
@@ -143,13 +148,28 @@ void Form1::LigaComandos()
     m_c.Image8.Click = [this] { m_comandos.Image8_Click(); };
     m_c.Image3.MouseMove = [this](const toolkit::Mouse &mouse) { ArrastaForm(m_form, mouse); };
     m_comandos.NovoJogo = [this] { m_ciclo->NovoJogo(); };
-    m_comandos.AbreCarregar = [] {};
-    m_comandos.AbreSalvar = [] {};
-    m_comandos.AbreRanking = [] {};
     m_comandos.AbreSobre = [this] {
         FrmSobre sobre(m_valores, m_ambiente, m_form.Dpi(), LugaresDoPrograma(m_valores));
         sobre.ShowModal(&m_form);
     };
+}
+
+void Form1::LigaDialogos()
+{
+    m_comandos.AbreCarregar = [this] {
+        FrmCarregar(Dialogos(), [this](int n) { m_carga.CarregaJogo(n); }).ShowModal();
+    };
+    m_comandos.AbreSalvar = [this] { AbreSalvar(); };
+    m_comandos.AbreRanking = [this] { FrmHanking(Dialogos()).ShowModal(); };
+    m_verificacao.VerificaRecords = [this](int t) { return ::VerificaRecords(Dialogos(), t); };
+}
+
+void Form1::AbreSalvar()
+{
+    // Where the bank could not serve there is no game to be saved.
+    if (m_tabuleiro.QtdItens == kItens) {
+        FrmSalvar(Dialogos(), m_tabuleiro).ShowModal();
+    }
 }
 
 void Form1::LigaRelogio()

@@ -2,11 +2,13 @@
 
 #include "app/board_view.h"
 #include "app/game_cycle.h"
+#include "app/load_game.h"
 #include "gameplay/clock.h"
 #include "gameplay/commands.h"
 #include "gameplay/hint_bubble.h"
 #include "gameplay/letter_entry.h"
 #include "gameplay/word_check.h"
+#include "records/dialog_context.h"
 #include "toolkit/overflow.h"
 
 #include <memory>
@@ -32,8 +34,11 @@ private:
     void LigaTabuleiro();
     void LigaBalao();
     void LigaComandos();
+    void LigaDialogos();
     void LigaRelogio();
     void AjustaAoDpi(int dpiAplicado);
+    void AbreSalvar();
+    [[nodiscard]] ContextoDialogo Dialogos() { return {m_valores, m_ambiente, m_form}; }
 
     ValoresPrograma &m_valores;
     Ambiente &m_ambiente;
@@ -57,5 +62,6 @@ private:
     Relogio m_relogio;
     Comandos m_comandos;
     std::unique_ptr<CicloJogo> m_ciclo;
+    CargaJogo m_carga;
     bool m_jaAtivou = false;
 };

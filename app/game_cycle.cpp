@@ -7,10 +7,10 @@
 
 void CicloJogo::NovoJogo()
 {
-    if (m_emAndamento) {
+    if (d.estado.Montando) {
         return;
     }
-    const QScopedValueRollback emAndamento(m_emAndamento, true);
+    const QScopedValueRollback montando(d.estado.Montando, true);
     int falhas = 0;
     if (!Monta(falhas)) {
         SemJogo();

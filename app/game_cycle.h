@@ -29,9 +29,6 @@ public:
     /// board is being built or loaded, it does nothing.
     void NovoJogo();
 
-    /// Whether a board is being built or loaded.
-    [[nodiscard]] bool EmAndamento() const { return m_emAndamento; }
-
 private:
     void Prepara();
     [[nodiscard]] bool Monta(int &falhas);
@@ -42,5 +39,4 @@ private:
     DadosBanco m_banco;
     VistaTabuleiro &m_vista;
     Selecao &m_selecao;
-    bool m_emAndamento = false;
 };

@@ -46,6 +46,8 @@ struct EstadoForm1
     QString avisoa;
     /// The game on the board is finished, solved or given up.
     bool TudoResolvido = false;
+    /// A board is being built or loaded. Neither a second build nor a second load starts meanwhile.
+    bool Montando = false;
 };
 
 /// File names, under PastaPrograma and PastaDados.

@@ -7,7 +7,6 @@
 namespace {
 
 constexpr int kMaximoDaPalavra = 15;
-constexpr double kMaximoDoTempo = 2'000'000'000;
 
 QString Secao(int n)
 {

@@ -11,11 +11,14 @@
 
 inline constexpr int kSlots = 10;
 
+/// Longest time that a slot can hold, in seconds.
+inline constexpr double kMaximoDoTempo = 2'000'000'000;
+
 /// Writes slot `n` (1 to kSlots) whole, or leaves it as it was.
 ///
-/// `tabuleiro` is a complete game of 26 items. `tempoSegundos` is the time played, finite, at least
-/// 0. It is written with "," where `separadorDecimal`, the system's, is ",", and with "."
-/// otherwise. `nome` is stored as given; one of blanks only reads as no name. The result says
+/// `tabuleiro` is a complete game of 26 items. `tempoSegundos` is the time played, from 0 to
+/// kMaximoDoTempo. It is written with "," where `separadorDecimal`, the system's, is ",", and with
+/// "." otherwise. `nome` is stored as given; one of blanks only reads as no name. The result says
 /// whether the slot was written; the program does not care.
 bool SalvaSlot(const QString &arquivo, int n, const QString &nome, const Tabuleiro &tabuleiro,
                double tempoSegundos, const QString &separadorDecimal);
@@ -25,7 +28,7 @@ struct JogoSalvo
 {
     /// Entries 1 to kItens.
     std::array<RegistroItem, kItens + 1> itens;
-    /// Seconds played, from 0 to 2 000 000 000, with fractions.
+    /// Seconds played, from 0 to kMaximoDoTempo, with fractions.
     double tempo = 0;
 };
 
@@ -41,7 +44,7 @@ enum class FalhaDoSlot {
     Sobreposicao,
     /// ItemResolvido is neither True nor False. Small letters, -1, 1 and 0 are read too.
     Resolvido,
-    /// Tempo is missing, not a number, negative or beyond JogoSalvo's range. Both "," and "." are
+    /// Tempo is missing, not a number, negative or beyond kMaximoDoTempo. Both "," and "." are
     /// read.
     Tempo,
 };

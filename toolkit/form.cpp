@@ -1,5 +1,6 @@
 #include "toolkit/form.h"
 
+#include "toolkit/command_button.h"
 #include "toolkit/window_region.h"
 
 #include <algorithm>
@@ -211,16 +212,30 @@ void Form::mouseReleaseEvent(QMouseEvent *evento)
 
 void Form::keyPressEvent(QKeyEvent *evento)
 {
-    if (KeyDown && KeyDown(evento->key())) {
+    if (evento->isAutoRepeat() || (KeyDown && KeyDown(evento->key()))) {
         return;
     }
-    const bool enter = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
-    if (enter && EnterPadrao) {
-        EnterPadrao();
+    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) {
+        TrataEnter();
     } else if (evento->key() == Qt::Key_Escape && Esc) {
         Esc();
     } else {
         QWidget::keyPressEvent(evento);
+    }
+}
+
+void Form::TrataEnter()
+{
+    if (EnterPadrao) {
+        EnterPadrao();
+        return;
+    }
+    for (const auto &controle : m_controls) {
+        auto *botao = dynamic_cast<CommandButton *>(controle.get());
+        if (botao != nullptr && botao->Default()) {
+            botao->Aciona();
+            return;
+        }
     }
 }
 

@@ -88,9 +88,12 @@ public:
     std::function<void()> QueryClose;
     std::function<void()> Click;
     std::function<void(const Mouse &)> MouseMove;
-    /// A key (Qt::Key) that no control has taken. True: it is dealt with.
+    /// A key (Qt::Key) that no control has taken. True: it is dealt with. Like the two below, it
+    /// hears of a key that is held down once only: held from one form to the next, it would go
+    /// through both.
     std::function<bool(int tecla)> KeyDown;
-    /// Enter, where no button with the focus takes it.
+    /// Enter, where no button with the focus takes it. Without a handler it presses the form's
+    /// default button.
     std::function<void()> EnterPadrao;
     /// Esc.
     std::function<void()> Esc;
@@ -107,6 +110,7 @@ protected:
 private:
     [[nodiscard]] Origem OrigemDe(const QString &nome, int indice, const PictureBox *dentro);
     Control &Guarda(std::unique_ptr<Control> controle);
+    void TrataEnter();
     void MostraTamanho();
     void DisparaActivate();
     void Recorta();

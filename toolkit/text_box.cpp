@@ -2,6 +2,7 @@
 
 #include "toolkit/thin_frame.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QLineEdit>
@@ -51,11 +52,20 @@ TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(orig
 {
     UsaWidget(m_campo);
     SetBackColor(kBranco);
-    QObject::connect(m_campo, &QLineEdit::textChanged, this, [this] {
-        if (Change) {
-            Change();
-        }
-    });
+    QObject::connect(m_campo, &QLineEdit::textChanged, this, [this] { TextoMudou(); });
+}
+
+void TextBox::TextoMudou()
+{
+    QString texto = m_campo->text();
+    const auto controle = [](QChar letra) { return letra.category() == QChar::Other_Control; };
+    if (std::any_of(texto.cbegin(), texto.cend(), controle)) {
+        std::replace_if(texto.begin(), texto.end(), controle, u' ');
+        // Comes back here with the text that is left.
+        m_campo->setText(texto);
+    } else if (Change) {
+        Change();
+    }
 }
 
 QString TextBox::Text() const

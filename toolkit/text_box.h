@@ -8,6 +8,7 @@ class QLineEdit;
 namespace toolkit {
 
 /// A one-line text box: a real one, with input methods, dead keys, clipboard and a menu of its own.
+/// Line ends and other control characters, which a paste can bring, become blanks.
 class TextBox final : public Control
 {
 public:
@@ -35,6 +36,8 @@ protected:
 
 private:
     class Campo;
+    void TextoMudou();
+
     Campo *m_campo;
     bool m_celula = false;
 };

@@ -8,7 +8,7 @@ const QString kAviso =
     QStringLiteral("Uma letra será revelada e dois minutos serão acrescentados ao seu tempo");
 
 /// Number of occupied cells with a fixed letter.
-int Fixas(const JogoDeTeste &jogo)
+int Fixas(const PartidaDeTeste &jogo)
 {
     int fixas = 0;
     for (int i = 1; i <= kCelulas; ++i) {
@@ -17,12 +17,12 @@ int Fixas(const JogoDeTeste &jogo)
     return fixas;
 }
 
-void Entrada(const JogoDeTeste &jogo, int k)
+void Entrada(const PartidaDeTeste &jogo, int k)
 {
-    JogoDeTeste::Clica(*jogo.c().Label3[static_cast<size_t>(k)]);
+    PartidaDeTeste::Clica(*jogo.c().Label3[static_cast<size_t>(k)]);
 }
 
-QString HoraMostrada(JogoDeTeste &jogo)
+QString HoraMostrada(PartidaDeTeste &jogo)
 {
     jogo.c().Timer1.Tique();
     return jogo.c().Label2.Caption();
@@ -32,10 +32,10 @@ QString HoraMostrada(JogoDeTeste &jogo)
 
 TEST(Socorro, GivesACrossingLetterForTwoMinutes)
 {
-    JogoDeTeste jogo;
+    PartidaDeTeste jogo;
     jogo.Comeca();
     jogo.maquina.agora += 600;
-    JogoDeTeste::Clica(jogo.c().Label4);
+    PartidaDeTeste::Clica(jogo.c().Label4);
     EXPECT_EQ(jogo.maquina.mensagens, QStringList{kAviso});
     ASSERT_EQ(Fixas(jogo), 1);
     int dada = 1;
@@ -52,21 +52,21 @@ TEST(Socorro, GivesACrossingLetterForTwoMinutes)
 
 TEST(Socorro, ChangesNothingWhenThePlayerCancels)
 {
-    JogoDeTeste jogo;
+    PartidaDeTeste jogo;
     jogo.Comeca();
     jogo.maquina.respostas = {Resposta::Cancelar};
-    JogoDeTeste::Clica(jogo.c().Label4);
+    PartidaDeTeste::Clica(jogo.c().Label4);
     EXPECT_EQ(Fixas(jogo), 0);
     EXPECT_EQ(HoraMostrada(jogo), QStringLiteral("00:00:00"));
 }
 
 TEST(Socorro, CanGiveTheWholePuzzleLetterByLetter)
 {
-    JogoDeTeste jogo(3);
+    PartidaDeTeste jogo(3);
     jogo.Comeca();
     int vezes = 0;
     while (!jogo.d().estado.TudoResolvido && vezes < 300) {
-        JogoDeTeste::Clica(jogo.c().Label4);
+        PartidaDeTeste::Clica(jogo.c().Label4);
         ASSERT_EQ(jogo.FaltaNoEstado(), QString()) << vezes;
         ++vezes;
         // Given letters can leave open items without a free cell; selecting one finds it right.
@@ -82,7 +82,7 @@ TEST(Socorro, CanGiveTheWholePuzzleLetterByLetter)
 
 TEST(Desistir, ShowsTheMissingLettersInRedAndLeavesTheClues)
 {
-    JogoDeTeste jogo;
+    PartidaDeTeste jogo;
     jogo.Comeca();
     jogo.ResolveAte(10);
     const int selecionado = jogo.d().estado.item;
@@ -103,7 +103,7 @@ TEST(Desistir, ShowsTheMissingLettersInRedAndLeavesTheClues)
     EXPECT_EQ(HoraMostrada(jogo), antes) << "the clock stands";
     jogo.Seleciona(26);
     EXPECT_EQ(jogo.c().Label1.Caption(), jogo.d().Item(26).Dica);
-    JogoDeTeste::Clica(jogo.c().Label4);
+    PartidaDeTeste::Clica(jogo.c().Label4);
     EXPECT_EQ(jogo.maquina.mensagens.last(), kAviso) << "help asks, and finds no cell";
     EXPECT_EQ(jogo.FaltaNoEstado(), QString());
     Entrada(jogo, 0);
@@ -113,7 +113,7 @@ TEST(Desistir, ShowsTheMissingLettersInRedAndLeavesTheClues)
 
 TEST(Comandos, RefuseRestartAndSaveInAFinishedGame)
 {
-    JogoDeTeste jogo;
+    PartidaDeTeste jogo;
     jogo.Comeca();
     jogo.ResolveAte(10);
     Entrada(jogo, 0);
@@ -127,10 +127,10 @@ TEST(Comandos, RefuseRestartAndSaveInAFinishedGame)
 
 TEST(Reiniciar, EmptiesTheBoardAndKeepsTheClockAndDesistir)
 {
-    JogoDeTeste jogo;
+    PartidaDeTeste jogo;
     jogo.Comeca();
-    JogoDeTeste::Clica(jogo.c().Label4);
-    JogoDeTeste::Clica(jogo.c().Label4);
+    PartidaDeTeste::Clica(jogo.c().Label4);
+    PartidaDeTeste::Clica(jogo.c().Label4);
     jogo.ResolveAte(10);
     const QString palavra = jogo.d().Item(7).Palavra;
     Entrada(jogo, 1);
@@ -149,7 +149,7 @@ TEST(Reiniciar, EmptiesTheBoardAndKeepsTheClockAndDesistir)
 
 TEST(Comandos, FrameAnEntryWhileItsButtonIsHeldAndLeave)
 {
-    JogoDeTeste jogo;
+    PartidaDeTeste jogo;
     jogo.Comeca();
     toolkit::Label &sair = *jogo.c().Label3[5];
     sair.MouseDown({});
@@ -157,13 +157,13 @@ TEST(Comandos, FrameAnEntryWhileItsButtonIsHeldAndLeave)
     sair.MouseUp({});
     EXPECT_EQ(sair.BorderStyle(), 0);
     Entrada(jogo, 5);
-    JogoDeTeste::Clica(jogo.c().Image2);
+    PartidaDeTeste::Clica(jogo.c().Image2);
     EXPECT_EQ(jogo.maquina.fins, 2);
 }
 
 TEST(Relogio, KnowsNoMidnightAndNeverGoesBelowZero)
 {
-    JogoDeTeste jogo;
+    PartidaDeTeste jogo;
     jogo.maquina.agora = 86390.5;
     jogo.Comeca();
     EXPECT_EQ(HoraMostrada(jogo), QStringLiteral("00:00:00"));

@@ -38,10 +38,11 @@ QByteArray BancoInventado(int quantas, std::uint64_t semente = 1);
 
 /// The whole main form in a portable folder of its own, with a player's hands: real key and mouse
 /// events.
-class JogoDeTeste
+class PartidaDeTeste
 {
 public:
-    explicit JogoDeTeste(std::uint64_t semente = 1, const QByteArray &banco = BancoInventado(600));
+    explicit PartidaDeTeste(std::uint64_t semente = 1,
+                            const QByteArray &banco = BancoInventado(600));
 
     /// Shows the form and waits until a board can be played.
     void Comeca();

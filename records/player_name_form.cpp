@@ -1,0 +1,35 @@
+#include "records/player_name_form.h"
+
+#include "forms/ranking_forms.h"
+#include "shell/dpi_adjuster.h"
+#include "shell/window_shape.h"
+
+FrmSeuNome::FrmSeuNome(const ContextoDialogo &contexto)
+    : d(contexto),
+      m_form(toolkit::Moldura::Nenhuma, contexto.dona.Dpi()),
+      m_text1((forms::Define(m_form, forms::kFrmSeuNome),
+               forms::Acha<toolkit::TextBox>(m_form, u"Text1")))
+{
+    m_form.OnUnload = [this] { Form_Unload(); };
+    m_form.Esc = [this] { m_form.Unload(); };
+    forms::Acha<toolkit::CommandButton>(m_form, u"Command1").Click = [this] { m_form.Unload(); };
+    forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
+        ArrastaForm(m_form, mouse);
+    };
+    Form_Load();
+}
+
+void FrmSeuNome::Form_Load()
+{
+    DaForma(m_form, d.valores);
+    m_text1.SetFocus();
+    if (d.valores.DpiDiferente) {
+        AjustarDpi(m_form);
+    }
+}
+
+void FrmSeuNome::Form_Unload()
+{
+    const QString nome = m_text1.Text().trimmed();
+    m_nomeJogador = nome.isEmpty() ? QStringLiteral("Sem Nome") : nome;
+}
