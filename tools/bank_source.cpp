@@ -105,7 +105,7 @@ private:
 FonteBanco LeFonte(const QByteArray &utf8)
 {
     Leitor leitor;
-    QStringDecoder decodificador(QStringDecoder::Utf8);
+    QStringDecoder decodificador(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString texto = decodificador.decode(utf8);
     if (decodificador.hasError()) {
         leitor.Anota(1, QStringLiteral("the source is not UTF-8"));
