@@ -149,7 +149,7 @@ void LeiturasAssincronas::Solta(Leitura &leitura)
 {
     if (QNetworkReply *resposta = std::exchange(leitura.resposta, nullptr)) {
         resposta->disconnect(this);
-        resposta->abort();
+        // Its end stops the transfer, and more quietly than an abort in the middle of a reply.
         resposta->deleteLater();
     }
 }

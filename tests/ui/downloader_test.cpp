@@ -103,11 +103,13 @@ TEST_F(Baixador, FetchesOnlyWebAddresses)
     local.close();
     for (const QString &endereco :
          {QStringLiteral("file://") + QDir(local.fileName()).absolutePath(),
-          QDir(local.fileName()).absolutePath(), QStringLiteral("data:,abc"),
-          QStringLiteral("ftp://127.0.0.1/x"), QStringLiteral("qrc:/figuras/Mao.png"), QString(),
-          QStringLiteral("http://"), QStringLiteral("://"),
-          QStringLiteral("http://127.0.0.1:1/nobody")}) {
+          QDir(local.fileName()).absolutePath(), QStringLiteral("file://localhost/etc/hostname"),
+          QStringLiteral("data:,abc"), QStringLiteral("ftp://127.0.0.1/x"),
+          QStringLiteral("qrc:/figuras/Mao.png"), QString(), QStringLiteral("http://"),
+          QStringLiteral("://"), QStringLiteral("http://127.0.0.1:1/nobody")}) {
         EXPECT_EQ(dl.GetConteudo(endereco), QString()) << qPrintable(endereco);
+        EXPECT_EQ(EnderecoDaRede(endereco).has_value(),
+                  endereco.endsWith(QStringLiteral("nobody")));
     }
     EXPECT_FALSE(maquina.preso);
     EXPECT_EQ(maquina.Arquivos(), QStringList{QStringLiteral("segredo")});
@@ -152,6 +154,11 @@ TEST_F(Baixador, StopsAnEndlessReplyAtOnce)
         EXPECT_EQ(Le(Endereco("/r")), QString());
         EXPECT_LT(enviados, 64 << 20);
     }
+    // A file may be of any length, but an error page is none.
+    servidor.Responde("/r", DizSemFim(Http("404 Not Found", "", ""), enviados));
+    EXPECT_EQ(dl.Download(Endereco("/r"), maquina.PastaTemporaria() + u'x', {}),
+              EstadoDL::Incompleto);
+    EXPECT_FALSE(maquina.preso);
 }
 
 TEST_F(Baixador, GivesUpAStalledReadAndIsDeafFromThenOn)
@@ -161,9 +168,13 @@ TEST_F(Baixador, GivesUpAStalledReadAndIsDeafFromThenOn)
         servidor.Responde("/r", roteiro);
         DL novo{maquina.ambiente, [this] { return maquina.PastaTemporaria(); }};
         novo.Completed = [](qint64, const QString &) { ADD_FAILURE() << "an end that never came"; };
+        // Time passes once the server has been asked.
+        auto pedidos = servidor.Pedidos().size();
+        maquina.aCadaVolta = [&] {
+            maquina.agora += servidor.Pedidos().size() > pedidos ? 0.5 : 0;
+        };
         const double inicio = maquina.agora;
         maquina.tiques = 0;
-        maquina.passo = 0.5;
         EXPECT_EQ(novo.GetConteudo(Endereco("/r")), QString());
         EXPECT_GT(maquina.agora - inicio, kTempoLimiteS);
         EXPECT_GT(maquina.tiques, 0);
@@ -171,13 +182,15 @@ TEST_F(Baixador, GivesUpAStalledReadAndIsDeafFromThenOn)
 
         // A proper reply comes too late for this instance, but not for a new one.
         servidor.Responde("/r", Diz(Http200("abc")));
+        ++pedidos;
         EXPECT_EQ(novo.GetConteudo(Endereco("/r")), QString());
         EXPECT_EQ(novo.Destinos().size(), 1U);
+        ++pedidos;
         EXPECT_EQ(novo.Download(Endereco("/r"), maquina.PastaTemporaria() + u'x', {}),
                   EstadoDL::Incompleto);
         EXPECT_EQ(maquina.Arquivos(), QStringList());
     }
-    maquina.passo = 0;
+    maquina.aCadaVolta = nullptr;
     EXPECT_EQ(Le(Endereco("/r")), QStringLiteral("abc\r\n"));
 }
 
@@ -240,6 +253,12 @@ TEST_F(Baixador, PutsADownloadInItsPlaceAndShowsHowItGrows)
     EXPECT_TRUE(dl.Recebeu(destino));
     EXPECT_TRUE(std::is_sorted(partes.begin(), partes.end()));
     EXPECT_EQ(maquina.Arquivos(), QStringList{QStringLiteral("jogo.exe")});
+
+    // A reply that is no file leaves the one that is there.
+    servidor.Responde("/r", Diz(Http("304 Not Modified", "", "")));
+    EXPECT_EQ(dl.Download(Endereco("/r"), destino, {}), EstadoDL::Completo);
+    EXPECT_FALSE(dl.Recebeu(destino));
+    EXPECT_EQ(arquivo.size(), corpo.size());
 }
 
 TEST_F(Baixador, ACancelledReadLeavesNothingButItsName)
@@ -250,5 +269,10 @@ TEST_F(Baixador, ACancelledReadLeavesNothingButItsName)
     EXPECT_EQ(dl.Download(Endereco("/r"), destino, {}), EstadoDL::Cancelado);
     EXPECT_EQ(maquina.Arquivos(), QStringList());
     EXPECT_FALSE(dl.Recebeu(destino));
-    EXPECT_EQ(dl.Destinos().at(kNomeDaLeitura.toString()), destino);
+
+    // So the next reply under that name goes to the old place, and nothing comes back.
+    dl.Progress = nullptr;
+    servidor.Responde("/r", Diz(Http200("abc")));
+    EXPECT_EQ(dl.GetConteudo(Endereco("/r")), QString());
+    EXPECT_EQ(QFile(destino).size(), 3);
 }
