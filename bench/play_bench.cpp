@@ -40,16 +40,16 @@ double Mede(const std::function<void()> &acao)
     return static_cast<double>(relogio.nsecsElapsed()) / 1e6;
 }
 
-void MedeNovoJogo(const PartidaDeTeste &jogo)
+void MedeNovoJogo(const JogoDeTeste &jogo)
 {
     std::vector<double> ms;
     for (int k = 0; k < kNovosJogos; ++k) {
-        ms.push_back(Mede([&jogo] { PartidaDeTeste::Clica(*jogo.c().Label3[0]); }));
+        ms.push_back(Mede([&jogo] { JogoDeTeste::Clica(*jogo.c().Label3[0]); }));
     }
     Imprime("new game, click to playable board", ms);
 }
 
-void MedeTeclas(PartidaDeTeste &jogo)
+void MedeTeclas(JogoDeTeste &jogo)
 {
     std::vector<double> ms;
     while (ms.size() < kTeclas) {
@@ -63,7 +63,7 @@ void MedeTeclas(PartidaDeTeste &jogo)
     Imprime("key press to painted letter", ms);
 }
 
-void MedeSelecoes(PartidaDeTeste &jogo)
+void MedeSelecoes(JogoDeTeste &jogo)
 {
     int longo = 1;
     for (int n = 2; n <= kItens; ++n) {
@@ -108,7 +108,7 @@ int main(int argc, char *argv[])
 {
     const QApplication aplicacao(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
-    PartidaDeTeste jogo(1, BancoInventado(3000));
+    JogoDeTeste jogo(1, BancoInventado(3000));
     jogo.Comeca();
     MedeNovoJogo(jogo);
     MedeTeclas(jogo);

@@ -23,6 +23,18 @@ struct DadosMontagem
     BuscaUsadas busca = BuscaUsadas::Indice;
 };
 
+/// A usable cell: one across which a word can run. `antes` and `depois` are the clear cells on
+/// either side of it, above 0; `posicoes` the first positions of the cell's letter in the entries
+/// of the bank.
+struct Travessia
+{
+    int celula;
+    QChar sentido;
+    int antes;
+    int depois;
+    const std::uint8_t *posicoes;
+};
+
 /// One build under way: the data and what the steps of a build share.
 class Montagem
 {
@@ -42,12 +54,18 @@ public:
     }
     /// Places the word of entry `k`; `sentido` is 'H' or 'V'.
     void Poe(int k, int ponto, QChar sentido);
+    /// The usable cells in ascending order. Worked out anew only when a word has been placed: most
+    /// passes of the rescue place none.
+    [[nodiscard]] const std::vector<Travessia> &Travessias();
     [[nodiscard]] bool Completa() const { return d.tabuleiro.QtdItens >= kItens; }
 
     DadosMontagem d;
 
 private:
     MarcasUsadas m_marcas;
+    std::vector<Travessia> m_travessias;
+    /// Number of items that m_travessias belongs to, or -1.
+    int m_itensDasTravessias = -1;
 };
 
 /// How a build ended: with kItens words on the board, or with fewer after the last rescue pass.

@@ -44,14 +44,29 @@ const std::uint8_t *IndiceBanco::PrimeirasPosicoes(QChar letra) const
     return m_posicoes[m_linhaDaLetra[letra.unicode()]].data();
 }
 
-MarcasUsadas::MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria)
-    : m_indice(&indice), m_usada(static_cast<size_t>(indice.QtdTextos()))
+const std::vector<std::uint8_t> &IndiceBanco::MarcasDe(const MemoriaUsadas &memoria) const
+{
+    const auto mesma = [](const QString &a, const QString &b) {
+        return a.constData() == b.constData() || (a.isEmpty() && b.isEmpty());
+    };
+    const auto fim = static_cast<std::ptrdiff_t>(memoria.QtdUsadas) + 1;
+    const auto usadas = memoria.PalavrasUsadas.begin();
+    if (!m_marcas.empty() && memoria.QtdUsadas == m_memoriaDasMarcas.QtdUsadas &&
+        std::equal(usadas, usadas + fim, m_memoriaDasMarcas.PalavrasUsadas.begin(), mesma)) {
+        return m_marcas;
+    }
+    m_memoriaDasMarcas = memoria;
+    m_marcas.assign(static_cast<size_t>(QtdTextos()), 0);
+    std::for_each(usadas, usadas + fim, [this](const QString &palavra) {
+        if (const int texto = ProcuraTexto(palavra); texto >= 0) {
+            m_marcas[static_cast<size_t>(texto)] = 1;
+        }
+    });
+    return m_marcas;
+}
+
+MarcasUsadas::MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria) : m_indice(&indice)
 {
     memoria.QtdUsadas = std::min(memoria.QtdUsadas, kUsadas);
-    for (int k = 0; k <= memoria.QtdUsadas; ++k) {
-        const int texto = indice.ProcuraTexto(memoria.PalavrasUsadas[static_cast<size_t>(k)]);
-        if (texto >= 0) {
-            m_usada[static_cast<size_t>(texto)] = 1;
-        }
-    }
+    m_usada = indice.MarcasDe(memoria);
 }

@@ -29,6 +29,9 @@ public:
     }
     /// Whether some entry has at least 5 letters. Without one no first word can ever be laid.
     [[nodiscard]] bool Serve() const { return m_serve; }
+    /// A flag for each text: whether it stands in entries 0 to QtdUsadas of the list. What was
+    /// worked out for a list is kept until a list with other words is asked for.
+    [[nodiscard]] const std::vector<std::uint8_t> &MarcasDe(const MemoriaUsadas &memoria) const;
 
 private:
     void AnotaLetras(const QString &palavra, size_t k);
@@ -41,6 +44,9 @@ private:
     std::vector<std::vector<std::uint8_t>> m_posicoes;
     std::vector<std::uint16_t> m_linhaDaLetra;
     bool m_serve = false;
+    /// The list that m_marcas belongs to; its texts share their characters with the list's.
+    mutable MemoriaUsadas m_memoriaDasMarcas;
+    mutable std::vector<std::uint8_t> m_marcas;
 };
 
 /// Answers jafoi for entries of the bank by one flag for each distinct word. Must be told of every

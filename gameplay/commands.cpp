@@ -86,6 +86,9 @@ void Comandos::Reinicia()
             {QStringLiteral("O jogo atual já está resolvido.\rClique em 'Novo Jogo'")});
         return;
     }
+    if (d.tabuleiro.QtdItens < kItens) {
+        return;
+    }
     for (int i = 1; i <= kCelulas; ++i) {
         d.c.Text1(i).SetText({});
         d.c.Text1(i).SetBackColor(kCorLivre);

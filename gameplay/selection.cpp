@@ -15,7 +15,8 @@ void Selecao::Lbt_Click(int Index)
         TocaSom(d.valores, d.ambiente, u"select.wav");
     }
     d.estado.NoClick = true;
-    if (Index == 0) {
+    // Where no game stands there is no item behind the buttons.
+    if (Index == 0 || Index > d.tabuleiro.QtdItens) {
         return;
     }
     if (d.valores.Desistiu) {

@@ -8,7 +8,7 @@
 namespace {
 
 /// The first item that is long enough to type into without ending it.
-int ItemLongo(const PartidaDeTeste &jogo)
+int ItemLongo(const JogoDeTeste &jogo)
 {
     int n = 1;
     while (jogo.d().Item(n).Palavra.size() < 5) {
@@ -31,7 +31,7 @@ struct ComItemLongo
 
     [[nodiscard]] QString Texto(int k) const { return jogo.c().Text1(primeira + k * passo).Text(); }
 
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     int item;
     int primeira;
     int passo;
@@ -121,7 +121,7 @@ TEST(EntradaLetras, GoesBackToTheCursorWhenAnotherCellGetsTheFocus)
 
 TEST(EntradaLetras, PassesOverFixedCells)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     // Fix all but the first and the last cell of a word: one letter leads straight to the last.
     const int n = ItemLongo(jogo);
@@ -141,10 +141,10 @@ TEST(EntradaLetras, PassesOverFixedCells)
 
 TEST(EntradaLetras, GivesBackTheSolutionAfterGivingUp)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     jogo.ResolveAte(10);
-    PartidaDeTeste::Clica(*jogo.c().Label3[0]);
+    JogoDeTeste::Clica(*jogo.c().Label3[0]);
     ASSERT_TRUE(jogo.d().valores.Desistiu);
     const int i = jogo.d().estado.Focus;
     jogo.c().Text1(i).SetFocus();

@@ -11,7 +11,7 @@ constexpr int kGestosPorJogo = 80;
 class JogadorAoAcaso
 {
 public:
-    JogadorAoAcaso(PartidaDeTeste &jogo, std::uint64_t semente) : m_jogo(jogo), m_acaso(semente) {}
+    JogadorAoAcaso(JogoDeTeste &jogo, std::uint64_t semente) : m_jogo(jogo), m_acaso(semente) {}
 
     /// One gesture; gives its name.
     const char *Gesto()
@@ -52,12 +52,11 @@ private:
     const char *Clica()
     {
         if (SorteiaNumero(m_acaso, 2) == 1) {
-            PartidaDeTeste::Clica(m_jogo.c().Text1(CelulaOcupada()), SorteiaNumero(m_acaso, 4) == 1
-                                                                         ? Qt::RightButton
-                                                                         : Qt::LeftButton);
+            JogoDeTeste::Clica(m_jogo.c().Text1(CelulaOcupada()),
+                               SorteiaNumero(m_acaso, 4) == 1 ? Qt::RightButton : Qt::LeftButton);
             return "cell";
         }
-        PartidaDeTeste::Clica(m_jogo.c().Lbt(SorteiaNumero(m_acaso, kItens)));
+        JogoDeTeste::Clica(m_jogo.c().Lbt(SorteiaNumero(m_acaso, kItens)));
         return "button";
     }
 
@@ -80,11 +79,11 @@ private:
     const char *Mouse()
     {
         m_jogo.maquina.agora += m_acaso.Uniforme() * 10;
-        PartidaDeTeste::Paira(m_jogo.c().Text1(CelulaOcupada()));
+        JogoDeTeste::Paira(m_jogo.c().Text1(CelulaOcupada()));
         m_jogo.c().Timer3.Tique();
         m_jogo.c().Timer1.Tique();
         if (SorteiaNumero(m_acaso, 2) == 1) {
-            PartidaDeTeste::Paira(m_jogo.c().Pic_q2);
+            JogoDeTeste::Paira(m_jogo.c().Pic_q2);
         }
         m_jogo.c().Timer2.Tique();
         return "hover";
@@ -94,20 +93,20 @@ private:
     {
         switch (SorteiaNumero(m_acaso, 8)) {
         case 1:
-            PartidaDeTeste::Clica(*m_jogo.c().Label3[1]);
+            JogoDeTeste::Clica(*m_jogo.c().Label3[1]);
             return "restart";
         case 2:
-            PartidaDeTeste::Clica(*m_jogo.c().Label3[0]);
+            JogoDeTeste::Clica(*m_jogo.c().Label3[0]);
             return "first entry";
         default:
             m_jogo.maquina.respostas = {SorteiaNumero(m_acaso, 5) == 1 ? Resposta::Cancelar
                                                                        : Resposta::Ok};
-            PartidaDeTeste::Clica(m_jogo.c().Label4);
+            JogoDeTeste::Clica(m_jogo.c().Label4);
             return "help";
         }
     }
 
-    PartidaDeTeste &m_jogo;
+    JogoDeTeste &m_jogo;
     AcasoMersenne m_acaso;
 };
 
@@ -115,7 +114,8 @@ private:
 
 TEST(JogoAoAcaso, KeepsItsInvariantsAfterEveryGesture)
 {
-    PartidaDeTeste jogo(7);
+    JogoDeTeste jogo(7);
+    jogo.EncheRanking();
     jogo.Comeca();
     for (int partida = 1; partida <= kJogos; ++partida) {
         JogadorAoAcaso jogador(jogo, static_cast<std::uint64_t>(partida));
@@ -129,10 +129,10 @@ TEST(JogoAoAcaso, KeepsItsInvariantsAfterEveryGesture)
                 << "game " << partida << ", gesture " << gesto << ": " << nome;
         }
         if (!jogo.c().Image6.Visible()) {
-            PartidaDeTeste::Clica(*jogo.c().Label3[0]);
+            JogoDeTeste::Clica(*jogo.c().Label3[0]);
         } else {
             jogo.ResolveAte(kItens);
-            PartidaDeTeste::Clica(*jogo.c().Label3[0]);
+            JogoDeTeste::Clica(*jogo.c().Label3[0]);
         }
         ASSERT_EQ(jogo.FaltaNoEstado(), QString()) << "new game behind game " << partida;
     }

@@ -13,7 +13,7 @@ struct Cruzamento
 };
 
 /// Crossing cell number `qual` (from 0) of two open items.
-Cruzamento AchaCruzamento(const PartidaDeTeste &jogo, int qual = 0)
+Cruzamento AchaCruzamento(const JogoDeTeste &jogo, int qual = 0)
 {
     for (int i = 1; i <= kCelulas; ++i) {
         if (jogo.d().Ocupada(i) && jogo.d().Quadrado(i).Sentido == u'M' && qual-- == 0) {
@@ -27,19 +27,19 @@ Cruzamento AchaCruzamento(const PartidaDeTeste &jogo, int qual = 0)
 
 TEST(Selecao, AlternatesOnCrossingsAcrossTheWholeBoard)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     const Cruzamento um = AchaCruzamento(jogo, 0);
     const Cruzamento outro = AchaCruzamento(jogo, 3);
-    PartidaDeTeste::Clica(jogo.c().Text1(um.celula));
+    JogoDeTeste::Clica(jogo.c().Text1(um.celula));
     EXPECT_EQ(jogo.d().estado.item, um.itens.segundo)
         << "the first click picks the word laid later";
-    PartidaDeTeste::Clica(jogo.c().Text1(outro.celula));
+    JogoDeTeste::Clica(jogo.c().Text1(outro.celula));
     EXPECT_EQ(jogo.d().estado.item, outro.itens.primeiro);
-    PartidaDeTeste::Clica(jogo.c().Text1(um.celula), Qt::RightButton);
+    JogoDeTeste::Clica(jogo.c().Text1(um.celula), Qt::RightButton);
     EXPECT_EQ(jogo.d().estado.item, um.itens.segundo);
     // A double click arrives as a press and, instead of a second one, a press of its own kind.
-    PartidaDeTeste::Clica(jogo.c().Text1(um.celula));
+    JogoDeTeste::Clica(jogo.c().Text1(um.celula));
     EXPECT_EQ(jogo.d().estado.item, um.itens.primeiro);
     QTest::mouseDClick(jogo.c().Text1(um.celula).Widget(), Qt::LeftButton);
     EXPECT_EQ(jogo.d().estado.item, um.itens.segundo) << "a double click counts as two clicks";
@@ -47,7 +47,7 @@ TEST(Selecao, AlternatesOnCrossingsAcrossTheWholeBoard)
 
 TEST(Selecao, WipesTheItemThatIsLeftAndMarksTheNewOne)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     const int primeira = jogo.d().estado.Focus;
     jogo.Digita(QStringLiteral("xy"));
@@ -68,24 +68,24 @@ TEST(Selecao, WipesTheItemThatIsLeftAndMarksTheNewOne)
 
 TEST(Selecao, TakesTheOpenWordOfACrossingAndNoSolvedOne)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     const Cruzamento um = AchaCruzamento(jogo);
     jogo.Resolve(um.itens.segundo);
     jogo.Seleciona(um.itens.primeiro == 1 ? 26 : 1);
-    PartidaDeTeste::Clica(jogo.c().Text1(um.celula));
+    JogoDeTeste::Clica(jogo.c().Text1(um.celula));
     EXPECT_EQ(jogo.d().estado.item, um.itens.primeiro);
     jogo.Resolve(um.itens.primeiro);
     const int antes = jogo.d().estado.item;
     jogo.maquina.sons.clear();
-    PartidaDeTeste::Clica(jogo.c().Text1(um.celula));
+    JogoDeTeste::Clica(jogo.c().Text1(um.celula));
     EXPECT_EQ(jogo.d().estado.item, antes);
     EXPECT_TRUE(jogo.maquina.sons.isEmpty());
 }
 
 TEST(Selecao, ChecksAnItemWithoutAFreeCellAtOnce)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     const RegistroItem &item = jogo.d().Item(9);
     for (int k = 0; k < item.Palavra.size(); ++k) {
@@ -102,10 +102,10 @@ TEST(Selecao, ChecksAnItemWithoutAFreeCellAtOnce)
 
 TEST(BalaoDica, ShowsTheCluesOfACrossingAcrossFirst)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     const Cruzamento um = AchaCruzamento(jogo);
-    PartidaDeTeste::Paira(jogo.c().Text1(um.celula));
+    JogoDeTeste::Paira(jogo.c().Text1(um.celula));
     EXPECT_FALSE(jogo.c().Picture2.Visible());
     ASSERT_TRUE(jogo.c().Timer3.Ligado());
     jogo.c().Timer3.Tique();
@@ -127,41 +127,41 @@ TEST(BalaoDica, ShowsTheCluesOfACrossingAcrossFirst)
 
 TEST(BalaoDica, ComesBackOnlyAfterTheMouseHasLeftTheCells)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     const toolkit::TextBox &celula = jogo.c().Text1(jogo.d().Item(1).Ponto);
-    PartidaDeTeste::Paira(celula);
+    JogoDeTeste::Paira(celula);
     jogo.c().Timer3.Tique();
     jogo.c().Timer2.Tique();
     EXPECT_FALSE(jogo.c().Picture2.Visible());
-    PartidaDeTeste::Paira(celula);
+    JogoDeTeste::Paira(celula);
     EXPECT_FALSE(jogo.c().Timer3.Ligado()) << "the same text is not shown twice";
-    PartidaDeTeste::Paira(jogo.c().Pic_q2);
-    PartidaDeTeste::Paira(celula);
+    JogoDeTeste::Paira(jogo.c().Pic_q2);
+    JogoDeTeste::Paira(celula);
     EXPECT_TRUE(jogo.c().Timer3.Ligado());
-    PartidaDeTeste::Paira(jogo.c().Pic_q2);
+    JogoDeTeste::Paira(jogo.c().Pic_q2);
     EXPECT_FALSE(jogo.c().Timer3.Ligado()) << "left before the half second was over";
 }
 
 TEST(BalaoDica, GivesAnArrowOnlyWhereAnotherWordIsSolved)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     const Cruzamento um = AchaCruzamento(jogo);
     jogo.Resolve(um.itens.primeiro);
-    PartidaDeTeste::Paira(jogo.c().Text1(um.celula));
+    JogoDeTeste::Paira(jogo.c().Text1(um.celula));
     const RegistroItem &aberto = jogo.d().Item(um.itens.segundo);
     EXPECT_EQ(jogo.c().LbHint.Caption(), aberto.Dica);
     EXPECT_EQ(jogo.c().ImgHintDire.Visible(), aberto.Sentido == u'H');
     EXPECT_EQ(jogo.c().ImgHintDire2.Visible(), aberto.Sentido == u'V');
-    PartidaDeTeste::Paira(jogo.c().Text1(jogo.d().Item(26).Ponto));
+    JogoDeTeste::Paira(jogo.c().Text1(jogo.d().Item(26).Ponto));
     EXPECT_FALSE(jogo.c().ImgHintDire.Visible() &&
                  !jogo.d().Quadrado(jogo.d().Item(26).Ponto).Itens.contains(u','));
 }
 
 TEST(BalaoDica, IsReadableWhereItReachesBeyondTheWindow)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     jogo.c().LbHint.SetCaption(QString(60, u'M'));
     jogo.c().Picture2.Move(9000, 3000, 600 * 15.0F, 20 * 15.0F);

@@ -6,7 +6,7 @@
 namespace {
 
 /// A wrong letter for the cell under the cursor.
-QString LetraErrada(const PartidaDeTeste &jogo)
+QString LetraErrada(const JogoDeTeste &jogo)
 {
     return jogo.d().Quadrado(jogo.d().estado.Focus).Letra == u'Q' ? QStringLiteral("w")
                                                                   : QStringLiteral("q");
@@ -16,7 +16,7 @@ QString LetraErrada(const PartidaDeTeste &jogo)
 
 TEST(Verificacao, LocksARightWordAndGoesOn)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     jogo.Resolve(1);
     EXPECT_TRUE(jogo.d().Item(1).ItemResolvido);
@@ -31,7 +31,7 @@ TEST(Verificacao, LocksARightWordAndGoesOn)
 
 TEST(Verificacao, ChoosesTheNextOpenItem)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     jogo.Resolve(5);
     EXPECT_EQ(jogo.d().estado.item, 6) << "the next number, though 1 is open";
@@ -43,7 +43,7 @@ TEST(Verificacao, ChoosesTheNextOpenItem)
 
 TEST(Verificacao, SizesAMarkByItsSolvedNeighbours)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     for (const int n : {5, 7, 6}) {
         jogo.Resolve(n);
@@ -60,7 +60,7 @@ TEST(Verificacao, SizesAMarkByItsSolvedNeighbours)
 
 TEST(Verificacao, AcceptsAWordWithoutItsAccentsAndKeepsItSo)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     int n = 1;
     while (SemAcentos(jogo.d().Item(n).Palavra) == jogo.d().Item(n).Palavra) {
@@ -79,7 +79,7 @@ TEST(Verificacao, AcceptsAWordWithoutItsAccentsAndKeepsItSo)
 
 TEST(Verificacao, WipesAWrongWordAndKeepsItsFixedLetters)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     jogo.Resolve(1);
     // A word that crosses the solved one.
@@ -105,7 +105,8 @@ TEST(Verificacao, WipesAWrongWordAndKeepsItsFixedLetters)
 
 TEST(Verificacao, ShowsDesistirFromTenWordsOnAndEndsTheGameAfterTheLast)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
+    jogo.EncheRanking();
     jogo.Comeca();
     jogo.ResolveAte(9);
     EXPECT_FALSE(jogo.c().Image6.Visible());
@@ -123,7 +124,7 @@ TEST(Verificacao, ShowsDesistirFromTenWordsOnAndEndsTheGameAfterTheLast)
 
 TEST(Verificacao, GivesEachCellOneLetterWhereAPasteCameOutRight)
 {
-    PartidaDeTeste jogo;
+    JogoDeTeste jogo;
     jogo.Comeca();
     // Two letters in the first cell and the rest one cell early; a given letter ends the word.
     int n = 1;

@@ -59,7 +59,12 @@ Ambiente MaquinaDeTeste::Seam(std::uint64_t semente)
         return pedido.botoes == Botoes::SimNao ? Resposta::Sim : Resposta::Ok;
     };
     ambiente.abrePagina = [this](const QString &endereco) { paginas << endereco; };
-    ambiente.deixaEventos = [] { QCoreApplication::processEvents(); };
+    ambiente.deixaEventos = [this] {
+        if (aoDeixarEventos) {
+            aoDeixarEventos();
+        }
+        QCoreApplication::processEvents();
+    };
     ambiente.dorme = [](int) {};
     ambiente.terminaProcesso = [this] { ++fins; };
     return ambiente;
@@ -84,8 +89,8 @@ QByteArray BancoInventado(int quantas, std::uint64_t semente)
     return bytes;
 }
 
-PartidaDeTeste::PartidaDeTeste(std::uint64_t semente, const QByteArray &banco)
-    : m_registro(toolkit::kDpiPadrao), m_ambiente(maquina.Seam(semente))
+JogoDeTeste::JogoDeTeste(std::uint64_t semente, const QByteArray &banco, int dpi)
+    : m_registro(dpi), m_ambiente(maquina.Seam(semente))
 {
     FixaValores(valores, pasta.path());
     valores.registro = &m_registro.Acesso();
@@ -95,19 +100,22 @@ PartidaDeTeste::PartidaDeTeste(std::uint64_t semente, const QByteArray &banco)
         arquivo.write(banco);
     }
     arquivo.close();
-    // Five places that no time can take: a game ends with its message and asks for no name.
-    for (int p = 1; p <= kLugares; ++p) {
-        GravaLugar(Caminho(u"Dados/Ranking.dat"), p, QStringLiteral("Ana"), 0);
-    }
-    form = std::make_unique<Form1>(valores, m_ambiente, toolkit::kDpiPadrao);
+    form = std::make_unique<Form1>(valores, m_ambiente, dpi);
 }
 
-QString PartidaDeTeste::Caminho(QStringView nome) const
+QString JogoDeTeste::Caminho(QStringView nome) const
 {
     return QDir(pasta.path()).filePath(nome.toString());
 }
 
-void PartidaDeTeste::Comeca()
+void JogoDeTeste::EncheRanking() const
+{
+    for (int p = 1; p <= kLugares; ++p) {
+        GravaLugar(Caminho(u"Dados/Ranking.dat"), p, QStringLiteral("Ana"), 0);
+    }
+}
+
+void JogoDeTeste::Comeca()
 {
     form->Show();
     const bool pronto =
@@ -116,12 +124,12 @@ void PartidaDeTeste::Comeca()
     QCoreApplication::processEvents();
 }
 
-void PartidaDeTeste::Clica(const toolkit::Control &controle, Qt::MouseButton botao)
+void JogoDeTeste::Clica(const toolkit::Control &controle, Qt::MouseButton botao)
 {
     QTest::mouseClick(controle.Widget(), botao);
 }
 
-void PartidaDeTeste::Paira(const toolkit::Control &controle)
+void JogoDeTeste::Paira(const toolkit::Control &controle)
 {
     QMouseEvent movimento(QEvent::MouseMove, QPointF(2, 2),
                           controle.Widget()->mapToGlobal(QPointF(2, 2)), Qt::NoButton, Qt::NoButton,
@@ -129,7 +137,7 @@ void PartidaDeTeste::Paira(const toolkit::Control &controle)
     QApplication::sendEvent(controle.Widget(), &movimento);
 }
 
-void PartidaDeTeste::Digita(const QString &texto)
+void JogoDeTeste::Digita(const QString &texto)
 {
     for (const QChar letra : texto) {
         if (QWidget *foco = form->Janela().focusWidget()) {
@@ -142,25 +150,25 @@ void PartidaDeTeste::Digita(const QString &texto)
     }
 }
 
-void PartidaDeTeste::Tecla(Qt::Key tecla, Qt::KeyboardModifiers mais)
+void JogoDeTeste::Tecla(Qt::Key tecla, Qt::KeyboardModifiers mais)
 {
     if (QWidget *foco = form->Janela().focusWidget()) {
         QTest::keyClick(foco, tecla, mais);
     }
 }
 
-void PartidaDeTeste::Cola(const QString &texto)
+void JogoDeTeste::Cola(const QString &texto)
 {
     QApplication::clipboard()->setText(texto);
     Tecla(Qt::Key_V, Qt::ControlModifier);
 }
 
-void PartidaDeTeste::Seleciona(int n)
+void JogoDeTeste::Seleciona(int n)
 {
     Clica(c().Lbt(n));
 }
 
-QString PartidaDeTeste::LetrasLivres(int n) const
+QString JogoDeTeste::LetrasLivres(int n) const
 {
     const RegistroItem &item = d().Item(n);
     QString letras;
@@ -170,20 +178,20 @@ QString PartidaDeTeste::LetrasLivres(int n) const
     return letras;
 }
 
-void PartidaDeTeste::Resolve(int n)
+void JogoDeTeste::Resolve(int n)
 {
     Seleciona(n);
     Digita(LetrasLivres(n));
 }
 
-void PartidaDeTeste::ResolveAte(int quantos)
+void JogoDeTeste::ResolveAte(int quantos)
 {
     while (ContaResolvidos(d().tabuleiro) < quantos) {
         Resolve(PrimeiroAberto(d().tabuleiro));
     }
 }
 
-QString PartidaDeTeste::FaltaNoEstado() const
+QString JogoDeTeste::FaltaNoEstado() const
 {
     for (int i = 1; i <= kCelulas; ++i) {
         if (const QString falta = FaltaNaCelula(i); !falta.isEmpty()) {
@@ -198,7 +206,7 @@ QString PartidaDeTeste::FaltaNoEstado() const
     return d().estado.TudoResolvido ? QString() : FaltaNoCursor();
 }
 
-QString PartidaDeTeste::FaltaNaCelula(int i) const
+QString JogoDeTeste::FaltaNaCelula(int i) const
 {
     const CelulaQuadrado &celula = d().Quadrado(i);
     const bool ocupada = d().Ocupada(i);
@@ -228,7 +236,7 @@ QString PartidaDeTeste::FaltaNaCelula(int i) const
     return {};
 }
 
-QString PartidaDeTeste::FaltaNoCursor() const
+QString JogoDeTeste::FaltaNoCursor() const
 {
     const int cursor = d().estado.Focus;
     if (cursor == 0) {
