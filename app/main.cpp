@@ -13,6 +13,9 @@ int main(int argc, char *argv[])
 {
     const QApplication aplicacao(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
+#ifdef QUADRELO_ID
+    QApplication::setDesktopFileName(QStringLiteral(QUADRELO_ID));
+#endif
     QTranslator textosDoQt;
     PoeEmPortugues(textosDoQt, QApplication::applicationDirPath());
     // The banner goes before the main form shows; only the program's own end is an end.
