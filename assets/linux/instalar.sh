@@ -27,8 +27,8 @@ icones=$destino/icons/hicolor
 # A text as the value of a key of a desktop entry.
 valor() { printf '%s' "$1" | sed 's/\\/\\\\/g'; }
 
-# A path as the program of the key Exec: quoted, with the field codes' percent sign doubled.
-comando() { valor "\"$(printf '%s' "$1" | sed 's/["`$\\]/\\&/g; s/%/%%/g')\""; }
+# A path as the program of the key Exec, quoted.
+comando() { valor "\"$(printf '%s' "$1" | sed 's/["`$\\]/\\&/g')\""; }
 
 # copia ORIGEM DESTINO: with the directories on the way, readable whatever the player's umask.
 copia() {
@@ -58,9 +58,10 @@ avisa() {
 
 instala() {
   [ -x "$pasta/quadrelo" ] || erro "o jogo não está em $pasta"
+  # An entry cannot break a line, and desktops look for a program with "%" under another name.
   case $pasta in
-    *'
-'*) erro "o nome da pasta do jogo tem uma quebra de linha" ;;
+    *%* | *'
+'*) erro "tire do nome da pasta do jogo o sinal % ou a quebra de linha: $pasta" ;;
   esac
   escreve_atalho
   for lado in $TAMANHOS; do

@@ -25,7 +25,7 @@ archive=$work/pack/Quadrelo-$version-linux.tar.gz
 
 # What is in it: these files, no others, and nothing of the developer's own games.
 home=$work/"Casa da Conceição"
-folder=$home/"Jogos & 100% \"meus\" \$5"/Quadrelo
+folder=$home/"Jogos & os \"meus\" \$5 \\o"/Quadrelo
 mkdir -p "$(dirname "$folder")"
 tar -xzf "$archive" -C "$(dirname "$folder")"
 (cd "$folder" && find . -type f | sort) >"$work/found"
@@ -59,8 +59,14 @@ done
 [ -s "$share/icons/hicolor/scalable/apps/$id.svg" ] || die "no drawn icon"
 
 # The entry's command, read as a desktop reads it: the string's escapes go first, then those of the quotes.
-command=$(sed -n 's/^Exec=//p' "$entry" | sed 's/\\\\/\\/g' | sed 's/^"//; s/"$//; s/\\\(["`$\\]\)/\1/g; s/%%/%/g')
+command=$(sed -n 's/^Exec=//p' "$entry" | sed 's/\\\\/\\/g' | sed 's/^"//; s/"$//; s/\\\(["`$\\]\)/\1/g')
 [ "$command" = "$folder/quadrelo" ] || die "the entry starts $command"
+
+# A name that no entry can hold is refused, and nothing is left half done.
+mv "$folder" "$work/100%"
+if HOME=$work/other "$work/100%/instalar.sh" 2>/dev/null; then die "a path with % is taken"; fi
+[ ! -e "$work/other" ] || die "a refusal leaves something behind"
+mv "$work/100%" "$folder"
 
 # Once started, it stays up. What this platform cannot show, it says; that is no complaint of the game's.
 mkdir -m 700 "$work/run"
