@@ -1,16 +1,23 @@
 #include "app/form1.h"
 #include "app/splash.h"
+#include "shell/language.h"
 #include "shell/machine.h"
 #include "shell/registry_start.h"
 #include "toolkit/units.h"
 
 #include <QApplication>
 #include <QScreen>
+#include <QTranslator>
 
 int main(int argc, char *argv[])
 {
     const QApplication aplicacao(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
+#ifdef QUADRELO_ID
+    QApplication::setDesktopFileName(QStringLiteral(QUADRELO_ID));
+#endif
+    QTranslator textosDoQt;
+    PoeEmPortugues(textosDoQt, QApplication::applicationDirPath());
     // The banner goes before the main form shows; only the program's own end is an end.
     QApplication::setQuitOnLastWindowClosed(false);
 

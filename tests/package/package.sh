@@ -1,0 +1,88 @@
+#!/usr/bin/env bash
+# Makes the package, unpacks it where a player might, puts the game into the menu and takes it out again, and
+# starts it once.
+#   package.sh CPACK BUILD-DIRECTORY VERSION
+set -eu
+cpack=$1 build=$2 version=$3
+work=$(mktemp -d)
+game=
+cleanup() {
+  [ -z "$game" ] || kill "$game" 2>/dev/null || :
+  wait 2>/dev/null || :
+  rm -rf "$work"
+}
+trap cleanup EXIT
+die() {
+  echo "FAILED: $*" >&2
+  exit 1
+}
+
+id=example.quadrelo.Quadrelo
+"$cpack" --config "$build/CPackConfig.cmake" -B "$work/pack" >"$work/cpack.log" 2>&1 ||
+  die "no package: $(tail -n 5 "$work/cpack.log")"
+archive=$work/pack/Quadrelo-$version-linux.tar.gz
+[ -s "$archive" ] || die "the package has another name: $(ls "$work/pack")"
+
+# What is in it: these files, no others, and nothing of the developer's own games.
+home=$work/"Casa da Conceição"
+folder=$home/"Jogos & os \"meus\" \$5 \\o"/Quadrelo
+mkdir -p "$(dirname "$folder")"
+tar -xzf "$archive" -C "$(dirname "$folder")"
+(cd "$folder" && find . -type f | sort) >"$work/found"
+{
+  printf './%s\n' quadrelo Perguntas.tes LEIA-ME.md instalar.sh docs/tabuleiro.png docs/balao.png \
+    {acerto1,acerto2,click,erro1,erro2,select}.wav translations/qtbase_pt_BR.qm \
+    linux/{$id.desktop,$id.metainfo.xml,quadrelo.svg} linux/Icone{16,22,24,32,48,64,128,256}.png
+} | sort >"$work/wanted"
+diff "$work/wanted" "$work/found" || die "the package holds other files than it should"
+[ -d "$folder/Dados" ] || die "the folder for what the game writes is missing"
+readelf -S "$folder/quadrelo" | grep -q '\.symtab' && die "the executable is not stripped"
+readelf -d "$folder/quadrelo" | grep -qE 'RPATH|RUNPATH' && die "the executable looks for its libraries by a path"
+for picture in $(grep -o '](docs/[^)]*)' "$folder/LEIA-ME.md" | tr -d ']()'); do
+  [ -s "$folder/$picture" ] || die "LEIA-ME.md shows $picture, which is not there"
+done
+
+# Into the menu.
+unset XDG_DATA_HOME
+HOME=$home "$folder/instalar.sh" >/dev/null || die "instalar.sh fails"
+share=$home/.local/share
+entry=$share/applications/$id.desktop
+if command -v desktop-file-validate >/dev/null; then desktop-file-validate "$entry"; fi
+if command -v appstreamcli >/dev/null; then
+  appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml" >"$work/log" || die "$(cat "$work/log")"
+fi
+for size in 16 22 24 32 48 64 128 256; do
+  png=$share/icons/hicolor/${size}x$size/apps/$id.png
+  [ "$(od -An -j16 -N8 -tu1 "$png" | awk '{ print $3*256+$4 "x" $7*256+$8 }')" = "${size}x$size" ] ||
+    die "$png has another size"
+done
+[ -s "$share/icons/hicolor/scalable/apps/$id.svg" ] || die "no drawn icon"
+
+# The entry's command, read as a desktop reads it: the string's escapes go first, then those of the quotes.
+command=$(sed -n 's/^Exec=//p' "$entry" | sed 's/\\\\/\\/g' | sed 's/^"//; s/"$//; s/\\\(["`$\\]\)/\1/g')
+[ "$command" = "$folder/quadrelo" ] || die "the entry starts $command"
+
+# A name that no entry can hold is refused, and nothing is left half done.
+mv "$folder" "$work/100%"
+if HOME=$work/other "$work/100%/instalar.sh" 2>/dev/null; then die "a path with % is taken"; fi
+[ ! -e "$work/other" ] || die "a refusal leaves something behind"
+mv "$work/100%" "$folder"
+
+# Once started, it stays up. What this platform cannot show, it says; that is no complaint of the game's.
+mkdir -m 700 "$work/run"
+HOME=$home XDG_RUNTIME_DIR=$work/run QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 "$command" 2>"$work/stderr" &
+game=$!
+sleep 2
+kill -0 "$game" 2>/dev/null || die "the game is gone: $(head -n 3 "$work/stderr")"
+if grep -v '^This plugin does not support' "$work/stderr"; then die "the game complains"; fi
+kill "$game"
+wait "$game" 2>/dev/null || :
+game=
+
+# And out again: nothing stays behind, and the player's games do.
+echo kept >"$folder/Dados/save.ini"
+HOME=$home "$folder/instalar.sh" --remover >/dev/null || die "instalar.sh --remover fails"
+[ -z "$(find "$share" -name "*$id*")" ] || die "left behind: $(find "$share" -name "*$id*")"
+[ "$(cat "$folder/Dados/save.ini")" = kept ] || die "removing touched the player's games"
+HOME=$home "$folder/instalar.sh" --remover >/dev/null || die "removing twice fails"
+echo "package.sh: passed"
