@@ -1,104 +1,146 @@
 #!/usr/bin/env bash
-# save_load.sh FOLDER: saves a game, restarts the program, opens the game and pays for it, solves it word by
-# word and finds the time in the ranking. FOLDER is the game's portable folder.
-set -u
-. "$(dirname "$(readlink -f "$0")")/screen.sh" "$1"
+# Saves a game, restarts the program, opens the game and pays for it, solves it word by word and finds the
+# time in the ranking.
+#   save_load.sh PORTABLE-FOLDER
+# Accents have to be read as letters, and times with a point.
+export LC_ALL=C.UTF-8
+. "$(dirname "$0")/lib.sh"
 
-saved=$game/Dados/save.ini
-ranking=$game/Dados/Ranking.dat
+saved=$WORK/Quadrelo/Dados/save.ini
+ranking=$WORK/Quadrelo/Dados/Ranking.dat
 
-# value FILE SECTION KEY: a stored value, in UTF-8.
-value() {
-  iconv -f CP1252 -t UTF-8 "$1" | tr -d '\r' |
-    awk -v s="[$2]" -v k="$3=" '/^\[/ { in_it = $0 == s } in_it && index($0, k) == 1 { print substr($0, length(k) + 1) }'
+# window NAME WIDTH HEIGHT: the visible window of that title and size becomes the one that click goes to.
+window() {
+  local id geometry
+  for id in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
+    geometry=$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)
+    if [[ $geometry == *WIDTH=$2$'\n'HEIGHT=$3$'\n'* ]]; then
+      eval "$(grep -E '^(WINDOW|X|Y)=' <<<"$geometry")"
+      return 0
+    fi
+  done
+  return 1
 }
-has_value() { [ -f "$1" ] && [ -n "$(value "$@")" ]; }
+no_window() { ! window "$@"; }
+main_window() { window Quadrelo 652 499; }
+
+# message: whether a box with a message is open. It has the main window's title, and no fixed size.
+message() {
+  local id height
+  for id in $(xdotool search --onlyvisible --name '^Quadrelo$' 2>/dev/null); do
+    height=$(xdotool getwindowgeometry --shell "$id" 2>/dev/null | sed -n 's/^HEIGHT=//p')
+    [ "${height:-0}" -gt 60 ] && [ "$height" -lt 300 ] && WINDOW=$id && return 0
+  done
+  return 1
+}
+
+# press KEY: in the window found last.
+press() {
+  xdotool windowactivate --sync "$WINDOW" 2>/dev/null
+  xdotool key "$1"
+}
+
+# start: the game, with a board.
+start() {
+  start_game "$1"
+  main_window || die "the main window has another size"
+}
+# leave: by "Sair".
+leave() {
+  main_window
+  menu 5
+  wait_for 5 "end of the game" bash -c "! kill -0 $GAME 2>/dev/null"
+}
+
+# dialog ENTRY NAME: opens one of the lists from the menu.
+dialog() {
+  main_window
+  menu "$1"
+  wait_for 5 "dialog \"$2\"" window "$2" 251 373
+}
 
 # save_as SLOT NAME
 save_as() {
-  open_by_menu 180 'Salvar Jogo' 251 373
-  click "$found" 125 $((50 + 27 * ($1 - 1)))
-  wait_for "the question for a name" window 'Salvar Jogo' 283 99
-  activate "$found"
-  write "$2"
+  dialog 3 'Salvar Jogo'
+  click 125 $((50 + 27 * ($1 - 1)))
+  wait_for 5 "question for a name" window 'Salvar Jogo' 283 99
+  xdotool windowactivate --sync "$WINDOW"
+  type_text "$2"
   press Return
-  wait_for "the end of saving" no_window 'Salvar Jogo' 283 99
-  wait_for "slot $1" has_value "$saved" "jogo$1" Tempo
+  wait_for 5 "saved game" grep -aq "^\[jogo$1\]" "$saved"
+  wait_for 5 "end of saving" no_window 'Salvar Jogo' 251 373
 }
 
-# clock FILE: what the clock looks like.
-clock() { import -window "$main" -crop 74x17+563+451 +repage "$1"; }
-# differ X WIDTH A B: whether two clocks differ in these columns.
-differ() {
-  [ "$(compare -metric AE -extract "$2x17+$1+0" "$3" "$4" null: 2>&1)" != 0 ]
+# clock FILE: the clock's picture.
+clock() {
+  shot
+  convert "$WORK/shot.png" -crop "74x17+$((X + 563))+$((Y + 451))" +repage "$1"
 }
-minutes_moved() { clock "$work/now.png" && differ 31 15 "$work/zero.png" "$work/now.png"; }
-
-# open_slot SLOT: leaves the notice of the price open.
-open_slot() {
-  open_by_menu 139 'Abrir Jogo' 251 373
-  click "$found" 125 $((54 + 27 * ($1 - 1)))
-  wait_for "the notice of the price" message
-}
+# differ FROM WIDTH A B: whether two clocks differ in these columns.
+differ() { [ "$(compare -metric AE -extract "$2x17+$1+0" "$3" "$4" null: 2>&1)" != 0 ]; }
+minutes_moved() { main_window && clock "$WORK/now.png" && differ 31 15 "$WORK/zero.png" "$WORK/now.png"; }
 
 # solve: types every word of slot 1 as the selection goes from item to item.
 solve() {
   declare -A fixed=() solved=()
   local i=1 left=26 k cell step word letters
   while ((left > 0)); do
-    word=$(value "$saved" jogo1 "Palavra$i")
-    cell=$(value "$saved" jogo1 "Ponto$i")
-    [ "$(value "$saved" jogo1 "Sentido$i")" = H ] && step=1 || step=26
+    word=$(ini "$saved" jogo1 "Palavra$i")
+    cell=$(ini "$saved" jogo1 "Ponto$i")
+    [ "$(ini "$saved" jogo1 "Sentido$i")" = h ] && step=1 || step=26
     letters=
-    for ((k = 0; k < ${#word}; k++)); do
+    for ((k = 0; k < ${#word}; ++k, cell += step)); do
       [ -n "${fixed[$cell]:-}" ] || letters+=${word:k:1}
       fixed[$cell]=1
-      cell=$((cell + step))
     done
-    # Plain letters pass for accented ones.
-    letters=$(sed 'y/ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛÜÇ/AEIOUAEIOUAOAEIOUUC/' <<<"$letters")
-    write "${letters,,}"
+    [ -n "$letters" ] && xdotool type --delay 12 "$letters"
     solved[$i]=1
-    left=$((left - 1))
-    i=$((i + 1))
-    if ((left > 0)) && { ((i > 26)) || [ -n "${solved[$i]:-}" ]; }; then
-      for ((i = 1; i <= 26; i++)); do [ -n "${solved[$i]:-}" ] || break; done
-    fi
+    ((--left > 0)) || break
+    ((++i <= 26)) && [ -z "${solved[$i]:-}" ] && continue
+    for ((i = 1; i <= 26; ++i)); do [ -n "${solved[$i]:-}" ] || break; done
   done
 }
 
-start_program
-save_as 1 'Primeiro'
-[ "$(value "$saved" jogo1 Nome)" = Primeiro ] || fail "the slot has another name"
-before=$(value "$saved" jogo1 Tempo)
-leave_program
+# within A LOW HIGH
+within() { awk -v a="$1" -v b="$2" -v c="$3" 'BEGIN { exit !(a >= b && a < c) }'; }
 
-start_program
-open_slot 1
-clock "$work/zero.png"
-activate "$found"
+start_screen
+start "$1"
+save_as 1 primeiro
+[ "$(ini "$saved" jogo1 Nome)" = primeiro ] || die "the slot has another name"
+before=$(ini "$saved" jogo1 Tempo)
+leave
+
+start "$1"
+dialog 2 'Abrir Jogo'
+click 125 54
+wait_for 10 "notice of the price" message
+box=$WINDOW
+main_window
+clock "$WORK/zero.png"
+WINDOW=$box
 press Return
-wait_for "a clock that shows the price" minutes_moved
-differ 0 31 "$work/zero.png" "$work/now.png" && fail "the clock shows hours"
-save_as 2 'Segundo'
-after=$(value "$saved" jogo2 Tempo)
-awk -v a="$before" -v b="$after" 'BEGIN { exit !(b - a >= 120 && b - a < 180) }' ||
-  fail "the price is not two minutes: $before seconds before, $after after"
-[ "$(value "$saved" jogo1 Tempo)" = "$before" ] || fail "opening has changed the slot"
+wait_for 5 "clock that shows the price" minutes_moved
+differ 0 31 "$WORK/zero.png" "$WORK/now.png" && die "the clock shows hours"
+save_as 2 segundo
+after=$(ini "$saved" jogo2 Tempo)
+within "$(awk "BEGIN { print $after - $before }")" 120 180 ||
+  die "the price is not two minutes: $before seconds before, $after after"
+[ "$(ini "$saved" jogo1 Tempo)" = "$before" ] || die "opening has changed the slot"
 
-activate "$main"
+main_window
+xdotool windowactivate --sync "$WINDOW"
 solve
-wait_for "the question for the player's name" window Ranking 282 99
-activate "$found"
-write 'Zoe'
+wait_for 5 "question for the player's name" window Ranking 282 99
+xdotool windowactivate --sync "$WINDOW"
+type_text Zoe
 press Return
-wait_for "the ranking" window Ranking 385 206
-activate "$found"
+wait_for 5 "ranking" window Ranking 385 206
 press Escape
-wait_for "the end of the ranking" no_window Ranking 385 206
-[ "$(value "$ranking" Ranking1 Nome)" = 'Zoe           ' ] || fail "the name is not in the ranking"
-time=$(value "$ranking" Ranking1 Tempo)
-awk -v a="$after" -v t="$time" 'BEGIN { exit !(t >= int(a) && t < a + 120) }' ||
-  fail "the ranking says $time seconds, the game had $after before its last words"
-leave_program
-echo "saved, opened for two minutes, solved and ranked with $time seconds"
+wait_for 5 "end of the ranking" no_window Ranking 385 206
+[ "$(ini "$ranking" Ranking1 Nome)" = 'zoe           ' ] || die "the name is not in the ranking"
+time=$(ini "$ranking" Ranking1 Tempo)
+within "$time" "${after%.*}" "$((${after%.*} + 120))" ||
+  die "the ranking says $time seconds, the game had $after before its last words"
+leave
+echo "save_load.sh: passed, $time seconds"

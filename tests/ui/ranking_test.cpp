@@ -1,10 +1,9 @@
 #include "records/ranking_check.h"
 #include "records/ranking_table.h"
-#include "tests/ui/support/game_fixture.h"
+#include "tests/core/test_files.h"
+#include "tests/ui/support/dialog_game.h"
 
-#include <gtest/gtest.h>
 #include <QKeyEvent>
-#include <QTest>
 
 namespace {
 
@@ -19,15 +18,15 @@ QString Linha(const toolkit::Form &form, int p)
     return legenda(u"Label1") + u' ' + legenda(u"Label2") + u' ' + legenda(u"Label3");
 }
 
-class Ranking : public ::testing::Test
+class Ranking : public TesteComDialogos
 {
 protected:
-    QString Arquivo() { return jogo.Dados(kArquivoRanking); }
+    QString Arquivo() { return Dados(kArquivoRanking); }
 
     /// Five places with 100 to 500 seconds, held by A to E.
     void CincoLugares()
     {
-        GravaArquivo(Arquivo(), {});
+        QFile::remove(Arquivo());
         for (int p = 1; p <= kLugares; ++p) {
             ASSERT_TRUE(GravaLugar(Arquivo(), p, QString(QChar(u'@' + p)), 100 * p));
         }
@@ -45,43 +44,39 @@ protected:
     /// The name's dialog gets `texto` and is closed by `tecla`, the ranking by Enter.
     void EsperaNome(const QString &texto, Qt::Key tecla = Qt::Key_Return)
     {
-        jogo.dialogos.Espera(QStringLiteral("FrmSeuNome"), [texto, tecla](toolkit::Form &form) {
+        dialogos.Espera(QStringLiteral("FrmSeuNome"), [texto, tecla](toolkit::Form &form) {
             Digita(form, texto);
             EXPECT_LE(forms::Acha<toolkit::TextBox>(form, u"Text1").Text().size(), kTamanhoNome);
             Tecla(form, tecla);
         });
-        jogo.dialogos.Espera(QStringLiteral("FrmHanking"),
-                             [](toolkit::Form &form) { Tecla(form, Qt::Key_Enter); });
+        dialogos.Espera(QStringLiteral("FrmHanking"),
+                        [](toolkit::Form &form) { Tecla(form, Qt::Key_Enter); });
     }
-
-    JogoDeTeste jogo;
 };
 
 } // namespace
 
 TEST_F(Ranking, TakesTheTimeOfAFinishedGame)
 {
-    jogo.agora += 3723.9;
-    jogo.dialogos.Espera(QStringLiteral("FrmSeuNome"), [this](toolkit::Form &form) {
+    jogo.maquina.agora += 3723.9;
+    dialogos.Espera(QStringLiteral("FrmSeuNome"), [this](toolkit::Form &form) {
         // No place has been written yet.
-        EXPECT_EQ(LeArquivo(Arquivo()), QByteArray("(missing)"));
+        EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), QByteArray("(missing)"));
         Digita(form, QStringLiteral("  José "));
         Tecla(form, Qt::Key_Return);
     });
-    jogo.dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
+    dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
         EXPECT_EQ(Linha(form, 1), QStringLiteral("01 01:02:03 José"));
         for (int p = 2; p <= kLugares; ++p) {
             EXPECT_EQ(Linha(form, p), QStringLiteral("0%1 . .").arg(p));
         }
         Tecla(form, Qt::Key_Escape);
     });
-    while (!jogo.Jogo().estado.TudoResolvido) {
-        jogo.DigitaSelecionado();
-    }
-    EXPECT_TRUE(
-        LeArquivo(Arquivo()).contains("[Ranking1]\r\nNome=Jos\xE9          \r\nTempo=3723"));
-    EXPECT_TRUE(jogo.mensagens.isEmpty());
-    EXPECT_EQ(jogo.dialogos.Pendentes(), 0U);
+    jogo.ResolveAte(kItens);
+    EXPECT_TRUE(PastaDeTeste::Conteudo(Arquivo()).contains(
+        "[Ranking1]\r\nNome=Jos\xE9          \r\nTempo=3723"));
+    EXPECT_TRUE(jogo.maquina.mensagens.isEmpty());
+    EXPECT_EQ(dialogos.Pendentes(), 0U);
 }
 
 TEST_F(Ranking, GivesPlacesBelowEqualTimes)
@@ -100,19 +95,17 @@ TEST_F(Ranking, GivesPlacesBelowEqualTimes)
         EXPECT_EQ(Nomes(), QString::fromUtf16(caso.nomes));
     }
     CincoLugares();
-    const QByteArray antes = LeArquivo(Arquivo());
+    const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
     EXPECT_FALSE(VerificaRecords(jogo.Dialogo(), 500));
-    EXPECT_EQ(LeArquivo(Arquivo()), antes);
+    EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
 }
 
 TEST_F(Ranking, CongratulatesWhereTheTimeGetsNoPlace)
 {
     CincoLugares();
-    jogo.agora += 500;
-    while (!jogo.Jogo().estado.TudoResolvido) {
-        jogo.DigitaSelecionado();
-    }
-    EXPECT_EQ(jogo.mensagens, QStringList(QStringLiteral("Parabéns !!!")));
+    jogo.maquina.agora += 500;
+    jogo.ResolveAte(kItens);
+    EXPECT_EQ(jogo.maquina.mensagens, QStringList(QStringLiteral("Parabéns !!!")));
 }
 
 TEST_F(Ranking, TakesANameOnEveryWayOfClosing)
@@ -139,31 +132,32 @@ TEST_F(Ranking, TakesANameOnEveryWayOfClosing)
         EXPECT_EQ(LeRanking(Arquivo())[1].Nome, caso.noArquivo);
     }
     // The picture's close button has no action there; the keyboard reaches the button.
-    jogo.dialogos.Espera(QStringLiteral("FrmSeuNome"), [](toolkit::Form &form) {
-        Clica(forms::Acha<toolkit::Image>(form, u"Image1"));
+    dialogos.Espera(QStringLiteral("FrmSeuNome"), [](toolkit::Form &form) {
+        ClicaNaJanela(forms::Acha<toolkit::Image>(form, u"Image1"));
         EXPECT_TRUE(form.isVisible());
         Tecla(form, Qt::Key_Tab);
         Tecla(form, Qt::Key_Space);
     });
-    jogo.dialogos.Espera(QStringLiteral("FrmHanking"),
-                         [](toolkit::Form &form) { Tecla(form, Qt::Key_Escape); });
+    dialogos.Espera(QStringLiteral("FrmHanking"),
+                    [](toolkit::Form &form) { Tecla(form, Qt::Key_Escape); });
     EXPECT_TRUE(VerificaRecords(jogo.Dialogo(), --t));
 }
 
 TEST_F(Ranking, ClosesByAClickAnywhereButNotByADrag)
 {
     const auto label = [](const char16_t *nome, int p) {
-        return
-            [nome, p](toolkit::Form &form) { Clica(forms::Acha<toolkit::Label>(form, nome, p)); };
+        return [nome, p](toolkit::Form &form) {
+            ClicaNaJanela(forms::Acha<toolkit::Label>(form, nome, p));
+        };
     };
     const std::array<RoteiroDialogos::Passos, 6> fechos = {
         label(u"Label1", 1),
         label(u"Label2", 3),
         label(u"Label3", 5),
         [](toolkit::Form &form) {
-            Clica(form, {192, 195});
+            ClicaNaJanela(form, {192, 195});
         },
-        [](toolkit::Form &form) { Clica(forms::Acha<toolkit::Image>(form, u"Image1")); },
+        [](toolkit::Form &form) { ClicaNaJanela(forms::Acha<toolkit::Image>(form, u"Image1")); },
         [](toolkit::Form &form) {
             const QPoint naTira(200, 15);
             const QPoint ondeEstava = form.pos();
@@ -172,59 +166,67 @@ TEST_F(Ranking, ClosesByAClickAnywhereButNotByADrag)
             QTest::mouseRelease(form.windowHandle(), Qt::LeftButton, {}, naTira);
             EXPECT_TRUE(form.isVisible());
             EXPECT_NE(form.pos(), ondeEstava);
-            Clica(form, naTira);
+            ClicaNaJanela(form, naTira);
         },
     };
     for (size_t k = 0; k < fechos.size(); ++k) {
         SCOPED_TRACE(k);
-        jogo.dialogos.Espera(QStringLiteral("FrmHanking"), fechos[k]);
-        jogo.Menu(kMenuRanking);
+        dialogos.Espera(QStringLiteral("FrmHanking"), fechos[k]);
+        Menu(kMenuRanking);
     }
 }
 
 TEST_F(Ranking, IsNotClosedByAKeyHeldFromTheFormBefore)
 {
-    jogo.dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
+    dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
         QKeyEvent segurada(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
         QCoreApplication::sendEvent(&form, &segurada);
         EXPECT_TRUE(form.isVisible());
         Tecla(form, Qt::Key_Return);
     });
-    jogo.Menu(kMenuRanking);
+    Menu(kMenuRanking);
 }
 
 TEST_F(Ranking, StandsInTheMiddleOfItsOwnerAndStopsNoTimer)
 {
-    jogo.Janela().SetLeft(450);
-    jogo.Janela().SetTop(300);
-    jogo.C().Timer1.SetInterval(0);
-    jogo.dialogos.Espera(QStringLiteral("FrmHanking"), [this](toolkit::Form &form) {
-        const QPoint desvio = form.geometry().center() - jogo.Janela().geometry().center();
+    jogo.form->Janela().SetLeft(450);
+    jogo.form->Janela().SetTop(300);
+    jogo.c().Timer1.SetInterval(0);
+    dialogos.Espera(QStringLiteral("FrmHanking"), [this](toolkit::Form &form) {
+        const QPoint desvio = form.geometry().center() - jogo.form->Janela().geometry().center();
         EXPECT_LE(desvio.manhattanLength(), 2);
-        jogo.agora += 61;
+        jogo.maquina.agora += 61;
         EXPECT_TRUE(QTest::qWaitFor(
-            [this] { return jogo.C().Label2.Caption() == QStringLiteral("00:01:01"); }));
+            [this] { return jogo.c().Label2.Caption() == QStringLiteral("00:01:01"); }));
         Tecla(form, Qt::Key_Escape);
     });
-    jogo.Menu(kMenuRanking);
+    Menu(kMenuRanking);
 }
 
-TEST(DialogsAtAnotherDpi, FitTheirPictures)
+namespace {
+
+class DialogsAtAnotherDpi : public TesteComDialogos
 {
-    constexpr int kDpi = 120;
-    JogoDeTeste jogo(kDpi);
-    jogo.dialogos.Espera(QStringLiteral("FrmCarregar"), [](toolkit::Form &form) {
+protected:
+    DialogsAtAnotherDpi() : TesteComDialogos(120) {}
+};
+
+} // namespace
+
+TEST_F(DialogsAtAnotherDpi, FitTheirPictures)
+{
+    dialogos.Espera(QStringLiteral("FrmCarregar"), [](toolkit::Form &form) {
         EXPECT_EQ(form.size(), QSize(251, 373));
         Tecla(form, Qt::Key_Escape);
     });
-    jogo.Menu(2);
-    jogo.dialogos.Espera(QStringLiteral("FrmSeuNome"), [](toolkit::Form &form) {
+    Menu(2);
+    dialogos.Espera(QStringLiteral("FrmSeuNome"), [](toolkit::Form &form) {
         EXPECT_EQ(form.size(), QSize(283, 99));
         // Text1 lies at 885 of 1485 twips.
         EXPECT_EQ(form.focusWidget()->y(), 59);
         Tecla(form, Qt::Key_Return);
     });
-    jogo.dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
+    dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
         EXPECT_EQ(form.size(), QSize(385, 206));
         Tecla(form, Qt::Key_Return);
     });

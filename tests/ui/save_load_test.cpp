@@ -1,9 +1,9 @@
 #include "bank/ini_file.h"
 #include "records/save_slot.h"
 #include "tests/core/test_board.h"
-#include "tests/ui/support/game_fixture.h"
+#include "tests/core/test_files.h"
+#include "tests/ui/support/dialog_game.h"
 
-#include <gtest/gtest.h>
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
@@ -48,16 +48,16 @@ void Esc(toolkit::Form &form)
     Tecla(form, Qt::Key_Escape);
 }
 
-class SaveLoad : public ::testing::Test
+class SaveLoad : public TesteComDialogos
 {
 protected:
     /// Saves into slot `n`; `nomeia` is run on the name's dialog.
     void Salva(int n, const RoteiroDialogos::Passos &nomeia)
     {
-        jogo.dialogos.Espera(QStringLiteral("FrmSalvar"),
-                             [n](toolkit::Form &form) { Clica(LbSave(form, n)); });
-        jogo.dialogos.Espera(QStringLiteral("FrmSalvar2"), nomeia);
-        jogo.Menu(kMenuSalvar);
+        dialogos.Espera(QStringLiteral("FrmSalvar"),
+                        [n](toolkit::Form &form) { ClicaNaJanela(LbSave(form, n)); });
+        dialogos.Espera(QStringLiteral("FrmSalvar2"), nomeia);
+        Menu(kMenuSalvar);
     }
 
     void SalvaComo(int n, const QString &nome)
@@ -70,13 +70,13 @@ protected:
 
     void Abre(int n)
     {
-        jogo.dialogos.Espera(QStringLiteral("FrmCarregar"),
-                             [n](toolkit::Form &form) { Clica(LbSave(form, n)); });
-        jogo.Menu(kMenuAbrir);
+        dialogos.Espera(QStringLiteral("FrmCarregar"),
+                        [n](toolkit::Form &form) { ClicaNaJanela(LbSave(form, n)); });
+        Menu(kMenuAbrir);
     }
 
     QString NomeNoSlot(int n) { return NomesDosSlots(Arquivo())[static_cast<size_t>(n)]; }
-    QString Arquivo() { return jogo.Dados(kArquivoJogos); }
+    QString Arquivo() { return Dados(kArquivoJogos); }
 
     /// What a slot holds; a test with a slot that cannot be read has failed.
     JogoSalvo LeSalvo(int n)
@@ -91,12 +91,10 @@ protected:
     {
         QString palavras;
         for (int n = 1; n <= kItens; ++n) {
-            palavras += jogo.Jogo().Item(n).Palavra + u' ';
+            palavras += jogo.d().Item(n).Palavra + u' ';
         }
         return palavras;
     }
-
-    JogoDeTeste jogo;
 };
 
 } // namespace
@@ -104,15 +102,15 @@ protected:
 TEST_F(SaveLoad, SavesTheGameWithItsTimeWhileTheBoardIsInView)
 {
     bool algumDialogo = true;
-    jogo.aoDeixarEventos = [this, &algumDialogo] {
+    jogo.maquina.aoDeixarEventos = [this, &algumDialogo] {
         if (!QFile::exists(Arquivo())) {
             algumDialogo = QApplication::activeModalWidget() != nullptr;
         }
     };
     jogo.Resolve(1);
-    jogo.sons.clear();
-    const double inicio = jogo.agora;
-    jogo.agora += 300.25;
+    jogo.maquina.sons.clear();
+    const double inicio = jogo.maquina.agora;
+    jogo.maquina.agora += 300.25;
     SalvaComo(3, QStringLiteral("Zé & Ção"));
 
     EXPECT_FALSE(algumDialogo);
@@ -120,17 +118,18 @@ TEST_F(SaveLoad, SavesTheGameWithItsTimeWhileTheBoardIsInView)
     const JogoSalvo salvo = LeSalvo(3);
     EXPECT_NEAR(salvo.tempo, 300.25, 0.01);
     for (int n = 1; n <= kItens; ++n) {
-        const RegistroItem &item = jogo.Jogo().Item(n);
+        const RegistroItem &item = jogo.d().Item(n);
         const RegistroItem &noArquivo = salvo.itens[static_cast<size_t>(n)];
         EXPECT_EQ(noArquivo.Palavra, item.Palavra);
         EXPECT_EQ(noArquivo.Dica, item.Dica);
         EXPECT_EQ(noArquivo.Ponto, item.Ponto);
         EXPECT_EQ(noArquivo.ItemResolvido, n == 1);
     }
-    EXPECT_EQ(jogo.sons, QStringList({QStringLiteral("click.wav"), QStringLiteral("click.wav")}));
+    EXPECT_EQ(jogo.maquina.sons,
+              QStringList({QStringLiteral("click.wav"), QStringLiteral("click.wav")}));
     // The game goes on as it was.
-    EXPECT_EQ(jogo.Relogio(), QStringLiteral("00:05:00"));
-    EXPECT_DOUBLE_EQ(jogo.Valores().HoraInicio, inicio);
+    EXPECT_EQ(Relogio(), QStringLiteral("00:05:00"));
+    EXPECT_DOUBLE_EQ(jogo.valores.HoraInicio, inicio);
 }
 
 TEST_F(SaveLoad, TakesNamesOfFourteenCharactersInWhateverWay)
@@ -172,15 +171,15 @@ TEST_F(SaveLoad, TakesNamesOfFourteenCharactersInWhateverWay)
 TEST_F(SaveLoad, AsksBeforeItOverwritesAndOffersTheOldName)
 {
     SalvaComo(2, QStringLiteral("velho"));
-    const QByteArray antes = LeArquivo(Arquivo());
+    const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
 
-    jogo.agora += 60;
-    jogo.respostas = {Resposta::Nao};
-    jogo.dialogos.Espera(QStringLiteral("FrmSalvar"),
-                         [](toolkit::Form &form) { Clica(LbSave(form, 2)); });
-    jogo.Menu(kMenuSalvar);
-    EXPECT_EQ(jogo.mensagens, QStringList(QStringLiteral("Deseja sobregravar velho?")));
-    EXPECT_EQ(LeArquivo(Arquivo()), antes);
+    jogo.maquina.agora += 60;
+    jogo.maquina.respostas = {Resposta::Nao};
+    dialogos.Espera(QStringLiteral("FrmSalvar"),
+                    [](toolkit::Form &form) { ClicaNaJanela(LbSave(form, 2)); });
+    Menu(kMenuSalvar);
+    EXPECT_EQ(jogo.maquina.mensagens, QStringList(QStringLiteral("Deseja sobregravar velho?")));
+    EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
 
     // Enter at once keeps the name; typing replaces it.
     Salva(2, [](toolkit::Form &form) {
@@ -193,32 +192,32 @@ TEST_F(SaveLoad, AsksBeforeItOverwritesAndOffersTheOldName)
     EXPECT_EQ(NomeNoSlot(2), QStringLiteral("Salvar aqui"));
 
     // A game of that name looks like a free slot.
-    jogo.mensagens.clear();
+    jogo.maquina.mensagens.clear();
     Salva(2, [](toolkit::Form &form) {
         EXPECT_TRUE(Nome(form).Text().isEmpty());
-        Clica(forms::Acha<toolkit::CommandButton>(form, u"Command1"));
+        ClicaNaJanela(forms::Acha<toolkit::CommandButton>(form, u"Command1"));
     });
-    EXPECT_TRUE(jogo.mensagens.isEmpty());
+    EXPECT_TRUE(jogo.maquina.mensagens.isEmpty());
     EXPECT_EQ(NomeNoSlot(2), QStringLiteral("Sem nome 2"));
 }
 
 TEST_F(SaveLoad, ClosesWithoutEffectInEveryOtherWay)
 {
     SalvaComo(1, QStringLiteral("um"));
-    const QByteArray antes = LeArquivo(Arquivo());
-    const int partida = jogo.Jogo().tabuleiro.Partida;
+    const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
+    const int partida = jogo.d().tabuleiro.Partida;
     const std::array<RoteiroDialogos::Passos, 4> fechos = {
-        [](toolkit::Form &form) { Clica(Imagem(form, u"Image1")); },
+        [](toolkit::Form &form) { ClicaNaJanela(Imagem(form, u"Image1")); },
         [](toolkit::Form &form) { Esc(form); },
         [](toolkit::Form &form) { form.close(); },
-        [](toolkit::Form &form) { Clica(LbSave(form, kCancelar)); },
+        [](toolkit::Form &form) { ClicaNaJanela(LbSave(form, kCancelar)); },
     };
     for (size_t k = 0; k < fechos.size(); ++k) {
         SCOPED_TRACE(k);
-        jogo.dialogos.Espera(QStringLiteral("FrmCarregar"), fechos[k]);
-        jogo.Menu(kMenuAbrir);
-        jogo.dialogos.Espera(QStringLiteral("FrmSalvar"), fechos[k]);
-        jogo.Menu(kMenuSalvar);
+        dialogos.Espera(QStringLiteral("FrmCarregar"), fechos[k]);
+        Menu(kMenuAbrir);
+        dialogos.Espera(QStringLiteral("FrmSalvar"), fechos[k]);
+        Menu(kMenuSalvar);
         // The name's dialog has no "Cancelar".
         if (k + 1 < fechos.size()) {
             Salva(2, [&fechos, k](toolkit::Form &form) {
@@ -227,14 +226,14 @@ TEST_F(SaveLoad, ClosesWithoutEffectInEveryOtherWay)
             });
         }
     }
-    EXPECT_EQ(LeArquivo(Arquivo()), antes);
-    EXPECT_EQ(jogo.Jogo().tabuleiro.Partida, partida);
-    EXPECT_TRUE(jogo.mensagens.isEmpty());
+    EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
+    EXPECT_EQ(jogo.d().tabuleiro.Partida, partida);
+    EXPECT_TRUE(jogo.maquina.mensagens.isEmpty());
 }
 
 TEST_F(SaveLoad, ColoursTheLabelLastUnderTheMouse)
 {
-    jogo.dialogos.Espera(QStringLiteral("FrmCarregar"), [](toolkit::Form &form) {
+    dialogos.Espera(QStringLiteral("FrmCarregar"), [](toolkit::Form &form) {
         PoeMouse(LbSave(form, 3));
         EXPECT_EQ(LbSave(form, 3).ForeColor(), kAzul);
         PoeMouse(LbSave(form, 5));
@@ -244,90 +243,90 @@ TEST_F(SaveLoad, ColoursTheLabelLastUnderTheMouse)
         }
         PoeMouse(LbSave(form, kCancelar));
         EXPECT_EQ(LbSave(form, 5).ForeColor(), toolkit::kPreto);
-        Clica(LbSave(form, kCancelar));
+        ClicaNaJanela(LbSave(form, kCancelar));
     });
-    jogo.Menu(kMenuAbrir);
+    Menu(kMenuAbrir);
 }
 
 TEST_F(SaveLoad, OpensAGameWithItsPriceInSilence)
 {
     const QString palavras = PalavrasDoTabuleiro();
-    for (int n = 1; n <= kItensParaDesistir; ++n) {
-        jogo.Resolve(n);
-    }
-    const RegistroItem aberto = jogo.Jogo().Item(jogo.Jogo().estado.item);
-    Digita(jogo.Janela(), aberto.Palavra.left(1));
-    jogo.agora += 300;
+    jogo.ResolveAte(kItensParaDesistir);
+    const RegistroItem aberto = jogo.d().Item(jogo.d().estado.item);
+    Digita(jogo.form->Janela(), aberto.Palavra.left(1));
+    jogo.maquina.agora += 300;
     SalvaComo(4, QStringLiteral("quatro"));
-    jogo.Menu(kMenuNovo); // gives up, as ten words are solved
-    jogo.Menu(kMenuNovo);
+    Menu(kMenuNovo); // gives up, as ten words are solved
+    Menu(kMenuNovo);
     ASSERT_NE(PalavrasDoTabuleiro(), palavras);
-    ASSERT_FALSE(jogo.C().Image6.Visible());
+    ASSERT_FALSE(jogo.c().Image6.Visible());
 
-    jogo.sons.clear();
-    jogo.naMensagem = [this] {
-        EXPECT_TRUE(jogo.C().Picespere.Visible());
-        EXPECT_FALSE(jogo.C().Timer1.Ligado());
-        jogo.agora += 1000;
+    jogo.maquina.sons.clear();
+    jogo.maquina.naMensagem = [this] {
+        EXPECT_TRUE(jogo.c().Picespere.Visible());
+        EXPECT_FALSE(jogo.c().Timer1.Ligado());
+        jogo.maquina.agora += 1000;
     };
     Abre(4);
 
-    EXPECT_EQ(jogo.mensagens,
+    EXPECT_EQ(jogo.maquina.mensagens,
               QStringList(QStringLiteral("Serão acrescentados 2 minutos ao seu tempo")));
     EXPECT_EQ(PalavrasDoTabuleiro(), palavras);
-    EXPECT_EQ(jogo.Relogio(), QStringLiteral("00:07:00"));
-    EXPECT_EQ(jogo.sons, QStringList({QStringLiteral("click.wav"), QStringLiteral("click.wav")}));
-    EXPECT_TRUE(jogo.Valores().SomLigado);
+    EXPECT_EQ(Relogio(), QStringLiteral("00:07:00"));
+    EXPECT_EQ(jogo.maquina.sons,
+              QStringList({QStringLiteral("click.wav"), QStringLiteral("click.wav")}));
+    EXPECT_TRUE(jogo.valores.SomLigado);
     // The first open word is selected and empty but for the letters of solved words.
-    const int primeiro = PrimeiroAberto(jogo.Jogo().tabuleiro);
-    EXPECT_EQ(jogo.Jogo().estado.item, primeiro);
-    EXPECT_EQ(jogo.Jogo().Item(primeiro).Palavra, aberto.Palavra);
-    EXPECT_TRUE(jogo.C().Text1(jogo.Jogo().estado.Focus).TemFoco());
+    const int primeiro = PrimeiroAberto(jogo.d().tabuleiro);
+    EXPECT_EQ(jogo.d().estado.item, primeiro);
+    EXPECT_EQ(jogo.d().Item(primeiro).Palavra, aberto.Palavra);
+    EXPECT_TRUE(jogo.c().Text1(jogo.d().estado.Focus).TemFoco());
     for (int i = 1; i <= kCelulas; ++i) {
-        const CelulaQuadrado &celula = jogo.Jogo().Quadrado(i);
-        if (jogo.Jogo().Ocupada(i)) {
-            EXPECT_EQ(jogo.C().Text1(i).Text(), celula.Fixa ? QString(celula.Letra) : QString());
+        const CelulaQuadrado &celula = jogo.d().Quadrado(i);
+        if (jogo.d().Ocupada(i)) {
+            EXPECT_EQ(jogo.c().Text1(i).Text(), celula.Fixa ? QString(celula.Letra) : QString());
         }
     }
-    EXPECT_TRUE(jogo.C().Image6.Visible());
-    EXPECT_TRUE(jogo.C().Label4.Visible());
-    EXPECT_TRUE(jogo.C().ImgR.ExisteObjeto(1));
-    EXPECT_FALSE(jogo.C().Picespere.Visible() || jogo.C().Image4.Visible());
+    EXPECT_TRUE(jogo.c().Image6.Visible());
+    EXPECT_TRUE(jogo.c().Label4.Visible());
+    EXPECT_TRUE(jogo.c().ImgR.ExisteObjeto(1));
+    EXPECT_FALSE(jogo.c().Picespere.Visible() || jogo.c().Image4.Visible());
 
     // The slot itself has not changed: the price is paid anew.
-    jogo.Valores().SomLigado = false;
+    jogo.valores.SomLigado = false;
     Abre(4);
-    EXPECT_EQ(jogo.Relogio(), QStringLiteral("00:07:00"));
-    EXPECT_FALSE(jogo.Valores().SomLigado);
+    EXPECT_EQ(Relogio(), QStringLiteral("00:07:00"));
+    EXPECT_FALSE(jogo.valores.SomLigado);
 }
 
 TEST_F(SaveLoad, RefusesEmptyAndDamagedSlots)
 {
-    jogo.dialogos.Espera(QStringLiteral("FrmCarregar"), [this](toolkit::Form &form) {
-        Clica(LbSave(form, 7));
-        EXPECT_EQ(jogo.mensagens, QStringList(QStringLiteral("Não há jogo salvo neste local")));
+    dialogos.Espera(QStringLiteral("FrmCarregar"), [this](toolkit::Form &form) {
+        ClicaNaJanela(LbSave(form, 7));
+        EXPECT_EQ(jogo.maquina.mensagens,
+                  QStringList(QStringLiteral("Não há jogo salvo neste local")));
         EXPECT_TRUE(form.isVisible());
         Esc(form);
     });
-    jogo.Menu(kMenuAbrir);
+    Menu(kMenuAbrir);
 
     SalvaComo(7, QStringLiteral("sete"));
     WritePrivateProfileStringA(QStringLiteral("jogo7"), QStringLiteral("Ponto26"),
                                QStringLiteral("572"), Arquivo());
     jogo.Resolve(1);
-    jogo.agora += 10;
-    const int partida = jogo.Jogo().tabuleiro.Partida;
-    const int item = jogo.Jogo().estado.item;
-    jogo.mensagens.clear();
+    jogo.maquina.agora += 10;
+    const int partida = jogo.d().tabuleiro.Partida;
+    const int item = jogo.d().estado.item;
+    jogo.maquina.mensagens.clear();
     Abre(7);
-    EXPECT_EQ(jogo.mensagens,
+    EXPECT_EQ(jogo.maquina.mensagens,
               QStringList(QStringLiteral(
                   "O jogo salvo neste local está danificado e não pode ser aberto.")));
-    EXPECT_EQ(jogo.Jogo().tabuleiro.Partida, partida);
-    EXPECT_EQ(jogo.Jogo().estado.item, item);
-    EXPECT_EQ(jogo.Relogio(), QStringLiteral("00:00:10"));
-    EXPECT_TRUE(jogo.C().Timer1.Ligado());
-    EXPECT_TRUE(jogo.Valores().SomLigado);
+    EXPECT_EQ(jogo.d().tabuleiro.Partida, partida);
+    EXPECT_EQ(jogo.d().estado.item, item);
+    EXPECT_EQ(Relogio(), QStringLiteral("00:00:10"));
+    EXPECT_TRUE(jogo.c().Timer1.Ligado());
+    EXPECT_TRUE(jogo.valores.SomLigado);
 }
 
 TEST_F(SaveLoad, LetsNothingActWhileAGameIsLaid)
@@ -335,30 +334,30 @@ TEST_F(SaveLoad, LetsNothingActWhileAGameIsLaid)
     jogo.Resolve(1);
     SalvaComo(1, QStringLiteral("um"));
     const QString palavras = PalavrasDoTabuleiro();
-    jogo.Menu(kMenuNovo);
-    const int partida = jogo.Jogo().tabuleiro.Partida;
+    Menu(kMenuNovo);
+    const int partida = jogo.d().tabuleiro.Partida;
     int vezes = 0;
-    jogo.aoDeixarEventos = [this, &vezes] {
+    jogo.maquina.aoDeixarEventos = [this, &vezes] {
         // The panel goes before the shield: to the very end no new game may start.
-        if (jogo.C().Image4.Visible()) {
-            jogo.Menu(kMenuNovo);
+        if (jogo.c().Image4.Visible()) {
+            Menu(kMenuNovo);
         }
-        if (jogo.C().Picespere.Visible()) {
+        if (jogo.c().Picespere.Visible()) {
             ++vezes;
-            jogo.Menu(kMenuAbrir);
-            Clica(jogo.C().Lbt(5));
-            Digita(jogo.Janela(), QStringLiteral("A"));
-            Clica(jogo.C().Label4);
+            Menu(kMenuAbrir);
+            ClicaNaJanela(jogo.c().Lbt(5));
+            Digita(jogo.form->Janela(), QStringLiteral("A"));
+            ClicaNaJanela(jogo.c().Label4);
         }
     };
     Abre(1);
-    jogo.aoDeixarEventos = nullptr;
+    jogo.maquina.aoDeixarEventos = nullptr;
     EXPECT_GT(vezes, 100);
-    EXPECT_EQ(jogo.Jogo().tabuleiro.Partida, partida + 1);
+    EXPECT_EQ(jogo.d().tabuleiro.Partida, partida + 1);
     EXPECT_EQ(PalavrasDoTabuleiro(), palavras);
-    EXPECT_EQ(jogo.mensagens.size(), 1);
-    EXPECT_EQ(jogo.Jogo().estado.item, 2);
-    EXPECT_EQ(ContaResolvidos(jogo.Jogo().tabuleiro), 1);
+    EXPECT_EQ(jogo.maquina.mensagens.size(), 1);
+    EXPECT_EQ(jogo.d().estado.item, 2);
+    EXPECT_EQ(ContaResolvidos(jogo.d().tabuleiro), 1);
 }
 
 TEST_F(SaveLoad, ChecksAFullWordOnlyWhenTheLoadIsOver)
@@ -371,20 +370,20 @@ TEST_F(SaveLoad, ChecksAFullWordOnlyWhenTheLoadIsOver)
     tabuleiro.ItemPalavra[kItens].ItemResolvido = true;
     ASSERT_TRUE(
         SalvaSlot(Arquivo(), 1, QStringLiteral("cheio"), tabuleiro, 30, QStringLiteral(".")));
-    jogo.dialogos.Espera(QStringLiteral("FrmCarregar"),
-                         [](toolkit::Form &form) { Clica(LbSave(form, 1)); });
-    jogo.dialogos.Espera(QStringLiteral("FrmSeuNome"), [this](toolkit::Form &form) {
-        EXPECT_FALSE(jogo.C().Picespere.Visible() || jogo.C().Image4.Visible());
-        EXPECT_EQ(jogo.mensagens.size(), 1);
+    dialogos.Espera(QStringLiteral("FrmCarregar"),
+                    [](toolkit::Form &form) { ClicaNaJanela(LbSave(form, 1)); });
+    dialogos.Espera(QStringLiteral("FrmSeuNome"), [this](toolkit::Form &form) {
+        EXPECT_FALSE(jogo.c().Picespere.Visible() || jogo.c().Image4.Visible());
+        EXPECT_EQ(jogo.maquina.mensagens.size(), 1);
         Enter(form);
     });
-    jogo.dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
+    dialogos.Espera(QStringLiteral("FrmHanking"), [](toolkit::Form &form) {
         EXPECT_EQ(forms::Acha<toolkit::Label>(form, u"Label2", 1).Caption(),
                   QStringLiteral("00:02:30"));
         Esc(form);
     });
-    jogo.Menu(kMenuAbrir);
-    EXPECT_TRUE(jogo.Jogo().estado.TudoResolvido);
-    EXPECT_FALSE(jogo.C().Timer1.Ligado());
-    EXPECT_FALSE(jogo.C().Label4.Visible());
+    Menu(kMenuAbrir);
+    EXPECT_TRUE(jogo.d().estado.TudoResolvido);
+    EXPECT_FALSE(jogo.c().Timer1.Ligado());
+    EXPECT_FALSE(jogo.c().Label4.Visible());
 }

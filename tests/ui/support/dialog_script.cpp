@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QEvent>
-#include <QPointer>
 #include <QTimer>
 #include <utility>
 
@@ -26,48 +25,35 @@ void RoteiroDialogos::Espera(const QString &nome, Passos passos)
 
 bool RoteiroDialogos::eventFilter(QObject *alvo, QEvent *evento)
 {
-    const bool mostra = evento->type() == QEvent::Show;
-    if (mostra || evento->type() == QEvent::Hide) {
-        auto *form = dynamic_cast<toolkit::Form *>(alvo);
-        if (form != nullptr && form->isModal()) {
-            mostra ? Mostrou(*form) : Escondeu(*form);
-        }
+    auto *form = evento->type() == QEvent::Show ? dynamic_cast<toolkit::Form *>(alvo) : nullptr;
+    if (form != nullptr && form->isModal()) {
+        QTimer::singleShot(0, form, [this, form] { Encena(*form); });
     }
     return QObject::eventFilter(alvo, evento);
-}
-
-void RoteiroDialogos::Mostrou(toolkit::Form &form)
-{
-    QTimer::singleShot(0, &form, [this, &form] { Encena(form); });
-}
-
-/// Does a window manager's duty: the owner of a window that has gone becomes the active one.
-void RoteiroDialogos::Escondeu(const toolkit::Form &form)
-{
-    QWidget *dona = form.parentWidget();
-    QTimer::singleShot(0, dona, [dona] {
-        if (dona->isVisible()) {
-            dona->activateWindow();
-        }
-    });
 }
 
 void RoteiroDialogos::Encena(toolkit::Form &form)
 {
     // The form hears of its activation by an event of its own.
     QCoreApplication::processEvents();
-    const QPointer<toolkit::Form> viva(&form);
-    if (m_cenas.empty() || m_cenas.front().nome != form.objectName()) {
-        ADD_FAILURE() << "not expected: " << qPrintable(form.objectName());
+    if (!m_cenas.empty() && m_cenas.front().nome == form.objectName()) {
+        EncenaProxima(form);
     } else {
-        const Cena cena = m_cenas.front();
-        m_cenas.pop_front();
-        cena.passos(form);
-        if (viva && viva->isVisible()) {
-            ADD_FAILURE() << "left open: " << qPrintable(cena.nome);
-        }
+        ADD_FAILURE() << "not expected: " << qPrintable(form.objectName());
     }
-    if (viva && viva->isVisible()) {
-        viva->Unload();
+    form.Unload();
+    if (QWidget *dona = form.parentWidget(); dona->isVisible()) {
+        dona->activateWindow();
+        QCoreApplication::processEvents();
+    }
+}
+
+void RoteiroDialogos::EncenaProxima(toolkit::Form &form)
+{
+    const Cena cena = m_cenas.front();
+    m_cenas.pop_front();
+    cena.passos(form);
+    if (form.isVisible()) {
+        ADD_FAILURE() << "left open: " << qPrintable(cena.nome);
     }
 }

@@ -11,7 +11,8 @@
 /// A modal form waits inside the call that shows it, so its script is set before that call and runs
 /// within it, once the form is up and active. A script has to close its form. A form that nobody
 /// expects, one that a script leaves open, and a script whose form never came are failures of the
-/// test; none of them hangs.
+/// test; none of them hangs. When a form has gone, its owner is the active window, as a window
+/// manager would have it.
 class RoteiroDialogos final : public QObject
 {
 public:
@@ -35,9 +36,8 @@ private:
         Passos passos;
     };
 
-    void Mostrou(toolkit::Form &form);
-    static void Escondeu(const toolkit::Form &form);
     void Encena(toolkit::Form &form);
+    void EncenaProxima(toolkit::Form &form);
 
     std::deque<Cena> m_cenas;
 };

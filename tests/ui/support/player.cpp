@@ -18,12 +18,12 @@ QWindow *JanelaDe(const toolkit::Control &controle)
 
 } // namespace
 
-void Clica(const toolkit::Control &controle)
+void ClicaNaJanela(const toolkit::Control &controle)
 {
     QTest::mouseClick(JanelaDe(controle), Qt::LeftButton, {}, MeioNaJanela(controle));
 }
 
-void Clica(toolkit::Form &form, QPoint lugar)
+void ClicaNaJanela(toolkit::Form &form, QPoint lugar)
 {
     QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, lugar);
 }

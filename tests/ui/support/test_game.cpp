@@ -59,7 +59,12 @@ Ambiente MaquinaDeTeste::Seam(std::uint64_t semente)
         return pedido.botoes == Botoes::SimNao ? Resposta::Sim : Resposta::Ok;
     };
     ambiente.abrePagina = [this](const QString &endereco) { paginas << endereco; };
-    ambiente.deixaEventos = [] { QCoreApplication::processEvents(); };
+    ambiente.deixaEventos = [this] {
+        if (aoDeixarEventos) {
+            aoDeixarEventos();
+        }
+        QCoreApplication::processEvents();
+    };
     ambiente.dorme = [](int) {};
     ambiente.terminaProcesso = [this] { ++fins; };
     return ambiente;
@@ -84,8 +89,8 @@ QByteArray BancoInventado(int quantas, std::uint64_t semente)
     return bytes;
 }
 
-PartidaDeTeste::PartidaDeTeste(std::uint64_t semente, const QByteArray &banco)
-    : m_registro(toolkit::kDpiPadrao), m_ambiente(maquina.Seam(semente))
+PartidaDeTeste::PartidaDeTeste(std::uint64_t semente, const QByteArray &banco, int dpi)
+    : m_registro(dpi), m_ambiente(maquina.Seam(semente))
 {
     FixaValores(valores, pasta.path());
     valores.registro = &m_registro.Acesso();
@@ -99,7 +104,7 @@ PartidaDeTeste::PartidaDeTeste(std::uint64_t semente, const QByteArray &banco)
     for (int p = 1; p <= kLugares; ++p) {
         GravaLugar(Caminho(u"Dados/Ranking.dat"), p, QStringLiteral("Ana"), 0);
     }
-    form = std::make_unique<Form1>(valores, m_ambiente, toolkit::kDpiPadrao);
+    form = std::make_unique<Form1>(valores, m_ambiente, dpi);
 }
 
 QString PartidaDeTeste::Caminho(QStringView nome) const

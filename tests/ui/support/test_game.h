@@ -27,6 +27,8 @@ struct MaquinaDeTeste
     int fins = 0;
     /// Runs while a message box is open.
     std::function<void()> naMensagem;
+    /// Runs each time the program lets events run, before they do.
+    std::function<void()> aoDeixarEventos;
 
     /// The seam over it. A message box without a prepared answer gets OK or Sim.
     Ambiente Seam(std::uint64_t semente);
@@ -41,8 +43,10 @@ QByteArray BancoInventado(int quantas, std::uint64_t semente = 1);
 class PartidaDeTeste
 {
 public:
+    /// `dpi`: the screen's dots per inch.
     explicit PartidaDeTeste(std::uint64_t semente = 1,
-                            const QByteArray &banco = BancoInventado(600));
+                            const QByteArray &banco = BancoInventado(600),
+                            int dpi = toolkit::kDpiPadrao);
 
     /// Shows the form and waits until a board can be played.
     void Comeca();
@@ -50,6 +54,8 @@ public:
     [[nodiscard]] const ContextoJogo &d() const { return form->Jogo(); }
     [[nodiscard]] forms::ControlesForm1 &c() const { return form->Jogo().c; }
     [[nodiscard]] QString Caminho(QStringView nome) const;
+    /// What a dialog on the main form gets.
+    [[nodiscard]] ContextoDialogo Dialogo() { return {valores, m_ambiente, form->Janela()}; }
 
     /// Clicks on a control with the left button (or another one).
     static void Clica(const toolkit::Control &controle, Qt::MouseButton botao = Qt::LeftButton);
