@@ -1,8 +1,9 @@
 #include "app/board_view.h"
 
+#include "shell/progress_bar.h"
+
 namespace {
 
-constexpr QColor kCorBarra(222, 199, 24);
 /// A shadow stands this far to the right of its cell and below it, in pixels.
 constexpr float kDeslocamentoSombra = 2;
 /// The number of a word that runs down stands this far right of its cell's left edge, in pixels.
@@ -93,12 +94,7 @@ int VistaTabuleiro::PrimeiraVisivel(bool daEsquerda) const
 
 void VistaTabuleiro::MostraProgresso(float fracao)
 {
-    d.c.PicUpdate.SetForeColor(kCorBarra);
-    d.c.PicUpdate.SetBackColor(toolkit::kBranco);
-    if (fracao > 0) {
-        d.c.PicUpdate.PintaRetangulo(d.c.PicUpdate.Width() * fracao, d.c.PicUpdate.Height());
-    }
-    d.c.PicUpdate.Refresh();
+    ::MostraProgresso(d.c.PicUpdate, fracao);
 }
 
 void VistaTabuleiro::MostraCelula(int i)

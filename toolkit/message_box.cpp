@@ -28,17 +28,32 @@ std::vector<Opcao> Opcoes(Botoes botoes)
     return {{QStringLiteral("OK"), Resposta::Ok}};
 }
 
+/// The text with plain line ends, cut so that the box stays on the screen whatever came in from
+/// outside.
+QString Apresentavel(QString texto)
+{
+    constexpr int kLinhas = 20;
+    constexpr int kCaracteres = 600;
+    texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    const QString curto = texto.left(kCaracteres).section(u'\n', 0, kLinhas - 1);
+    return curto == texto ? texto : curto + QStringLiteral("…");
+}
+
+QWidget *Dona()
+{
+    QWidget *ativa = QApplication::activeWindow();
+    return ativa != nullptr ? ativa : QApplication::activeModalWidget();
+}
+
 } // namespace
 
 Resposta MostraMensagem(const QString &titulo, const PedidoMensagem &pedido)
 {
-    QMessageBox caixa(QApplication::activeWindow());
+    QMessageBox caixa(Dona());
     caixa.setWindowTitle(titulo);
     // The text may come from outside: it is text and never markup.
     caixa.setTextFormat(Qt::PlainText);
-    QString texto = pedido.texto;
-    caixa.setText(
-        texto.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n'));
+    caixa.setText(Apresentavel(pedido.texto));
     caixa.setIcon(pedido.icone == Icone::Pergunta ? QMessageBox::Question : QMessageBox::NoIcon);
 
     const auto opcoes = Opcoes(pedido.botoes);
