@@ -8,12 +8,13 @@ bool SorteiaPara(Montagem &montagem, const Travessia &travessia, int tentar)
 {
     for (int vez = 0; vez < tentar; ++vez) {
         const int k = montagem.SorteiaPergunta();
-        if (montagem.JaFoi(k)) {
-            continue;
-        }
+        const int usada = montagem.JaFoi(k) ? 1 : 0;
         const int pos = travessia.posicoes[k];
-        if (pos > 0 && pos - 1 < travessia.antes &&
-            montagem.d.indice.Comprimento(k) - pos < travessia.depois) {
+        // Whether one draw fits is as good as random, so the parts of the answer are put together
+        // without a branch between them. What is below 0 has the sign bit.
+        const int sobraAntes = travessia.antes - pos;
+        const int sobraDepois = travessia.depois - 1 - (montagem.d.indice.Comprimento(k) - pos);
+        if (((pos - 1) | sobraAntes | sobraDepois | -usada) >= 0) {
             montagem.Poe(k, travessia.celula - (pos - 1) * PassoDe(travessia.sentido),
                          travessia.sentido);
             return true;

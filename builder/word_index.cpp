@@ -56,12 +56,16 @@ const std::vector<std::uint8_t> &IndiceBanco::MarcasDe(const MemoriaUsadas &memo
         return m_marcas;
     }
     m_memoriaDasMarcas = memoria;
-    m_marcas.assign(static_cast<size_t>(QtdTextos()), 0);
-    std::for_each(usadas, usadas + fim, [this](const QString &palavra) {
+    std::vector<std::uint8_t> textos(static_cast<size_t>(QtdTextos()));
+    std::for_each(usadas, usadas + fim, [this, &textos](const QString &palavra) {
         if (const int texto = ProcuraTexto(palavra); texto >= 0) {
-            m_marcas[static_cast<size_t>(texto)] = 1;
+            textos[static_cast<size_t>(texto)] = 1;
         }
     });
+    m_marcas.assign(m_texto.size(), 0);
+    for (size_t k = 1; k < m_texto.size(); ++k) {
+        m_marcas[k] = textos[static_cast<size_t>(m_texto[k])];
+    }
     return m_marcas;
 }
 
@@ -69,4 +73,18 @@ MarcasUsadas::MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria) : 
 {
     memoria.QtdUsadas = std::min(memoria.QtdUsadas, kUsadas);
     m_usada = indice.MarcasDe(memoria);
+}
+
+void MarcasUsadas::Marca(int k)
+{
+    m_usada[static_cast<size_t>(k)] = 1;
+    const auto entradas = static_cast<int>(m_usada.size());
+    if (m_indice->QtdTextos() == entradas - 1) {
+        return;
+    }
+    for (int outra = 1; outra < entradas; ++outra) {
+        if (m_indice->TextoDe(outra) == m_indice->TextoDe(k)) {
+            m_usada[static_cast<size_t>(outra)] = 1;
+        }
+    }
 }

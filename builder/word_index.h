@@ -29,8 +29,8 @@ public:
     }
     /// Whether some entry has at least 5 letters. Without one no first word can ever be laid.
     [[nodiscard]] bool Serve() const { return m_serve; }
-    /// A flag for each text: whether it stands in entries 0 to QtdUsadas of the list. What was
-    /// worked out for a list is kept until a list with other words is asked for.
+    /// A flag for each entry: whether its word stands in entries 0 to QtdUsadas of the list. What
+    /// was worked out for a list is kept until a list with other words is asked for.
     [[nodiscard]] const std::vector<std::uint8_t> &MarcasDe(const MemoriaUsadas &memoria) const;
 
 private:
@@ -49,7 +49,7 @@ private:
     mutable std::vector<std::uint8_t> m_marcas;
 };
 
-/// Answers jafoi for entries of the bank by one flag for each distinct word. Must be told of every
+/// Answers jafoi for entries of the bank by one flag for each. Must be told of every
 /// word that is placed, and made anew when the memory changes.
 class MarcasUsadas
 {
@@ -59,14 +59,12 @@ public:
     MarcasUsadas(const IndiceBanco &indice, MemoriaUsadas &memoria);
 
     /// What jafoi answers for the word of entry `k`.
-    [[nodiscard]] bool JaFoi(int k) const
-    {
-        return m_usada[static_cast<size_t>(m_indice->TextoDe(k))] != 0;
-    }
-    /// Entry `k` has been placed.
-    void Marca(int k) { m_usada[static_cast<size_t>(m_indice->TextoDe(k))] = 1; }
+    [[nodiscard]] bool JaFoi(int k) const { return m_usada[static_cast<size_t>(k)] != 0; }
+    /// Entry `k` has been placed: it and all entries with the same word count as used.
+    void Marca(int k);
 
 private:
     const IndiceBanco *m_indice;
+    /// One flag for each entry.
     std::vector<std::uint8_t> m_usada;
 };
