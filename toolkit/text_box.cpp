@@ -10,12 +10,15 @@
 namespace toolkit {
 
 /// The widget: a line edit with a flat one-pixel frame.
-class TextBox::Campo final : public QLineEdit
+class TextBox::Campo final : public QLineEdit, public WidgetDeControle
 {
 public:
-    explicit Campo(QWidget *pai) : QLineEdit(pai) { setFrame(false); }
+    Campo(QWidget *pai, TextBox &dono) : QLineEdit(pai), WidgetDeControle(dono) { setFrame(false); }
 
     bool celula = false;
+
+    [[nodiscard]] QLineEdit *Linha() override { return this; }
+    [[nodiscard]] bool AceitaEscrita() const override { return !celula || hasFocus(); }
 
 protected:
     void paintEvent(QPaintEvent *evento) override
@@ -47,11 +50,12 @@ protected:
     }
 };
 
-TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(origem.pai))
+TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(origem.pai, *this))
 {
     UsaWidget(m_campo);
     SetBackColor(kBranco);
     QObject::connect(m_campo, &QLineEdit::textChanged, this, [this] {
+        AvisaMudanca();
         if (Change) {
             Change();
         }
