@@ -28,7 +28,8 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
       m_verificacao(m_jogo, m_selecao),
       m_balao(m_jogo),
       m_relogio(m_jogo),
-      m_comandos(m_jogo, m_selecao)
+      m_comandos(m_jogo, m_selecao),
+      m_acessivel(m_jogo)
 {
     m_form.SetIcone(QStringLiteral("Icone"));
     LigaTabuleiro();
@@ -36,6 +37,7 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
     LigaComandos();
     LigaRelogio();
     Form_Load();
+    LigaAcessibilidade();
 }
 
 void Form1::Form_Load()
@@ -157,4 +159,12 @@ void Form1::LigaRelogio()
         m_c.Timer4.SetLigado(false);
         GravaUsadas(m_memoria, Caminho(m_valores.PastaDados, kArquivoUsadas), m_tabuleiro);
     };
+}
+
+void Form1::LigaAcessibilidade()
+{
+    m_acessivel.Descreve();
+    m_verificacao.AoJulgar = [this](int i, bool certa) { m_acessivel.PalavraJulgada(i, certa); };
+    m_comandos.AoDarLetra = [this](int c) { m_acessivel.LetraDada(c); };
+    m_comandos.AoDesistir = [this] { m_acessivel.SolucaoMostrada(); };
 }

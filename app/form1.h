@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/accessible_board.h"
 #include "app/board_view.h"
 #include "app/game_cycle.h"
 #include "gameplay/clock.h"
@@ -33,6 +34,7 @@ private:
     void LigaBalao();
     void LigaComandos();
     void LigaRelogio();
+    void LigaAcessibilidade();
     void AjustaAoDpi(int dpiAplicado);
 
     ValoresPrograma &m_valores;
@@ -56,6 +58,7 @@ private:
     BalaoDica m_balao;
     Relogio m_relogio;
     Comandos m_comandos;
+    TabuleiroAcessivel m_acessivel;
     std::unique_ptr<CicloJogo> m_ciclo;
     bool m_jaAtivou = false;
 };
