@@ -34,7 +34,8 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
       m_balao(m_jogo),
       m_relogio(m_jogo),
       m_comandos(m_jogo, m_selecao),
-      m_carga(m_jogo, {m_vista, m_selecao, m_entrada, m_verificacao})
+      m_carga(m_jogo, {m_vista, m_selecao, m_entrada, m_verificacao}),
+      m_acessivel(m_jogo)
 {
     m_form.SetIcone(QStringLiteral("Icone"));
     LigaTabuleiro();
@@ -43,6 +44,7 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
     LigaDialogos();
     LigaRelogio();
     Form_Load();
+    LigaAcessibilidade();
 }
 
 void Form1::Form_Load()
@@ -181,4 +183,12 @@ void Form1::LigaRelogio()
         m_c.Timer4.SetLigado(false);
         GravaUsadas(m_memoria, Caminho(m_valores.PastaDados, kArquivoUsadas), m_tabuleiro);
     };
+}
+
+void Form1::LigaAcessibilidade()
+{
+    m_acessivel.Descreve();
+    m_verificacao.AoJulgar = [this](int i, bool certa) { m_acessivel.PalavraJulgada(i, certa); };
+    m_comandos.AoDarLetra = [this](int c) { m_acessivel.LetraDada(c); };
+    m_comandos.AoDesistir = [this] { m_acessivel.SolucaoMostrada(); };
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/accessible_board.h"
 #include "app/board_view.h"
 #include "app/game_cycle.h"
 #include "app/load_game.h"
@@ -36,6 +37,7 @@ private:
     void LigaComandos();
     void LigaDialogos();
     void LigaRelogio();
+    void LigaAcessibilidade();
     void AjustaAoDpi(int dpiAplicado);
     void AbreSalvar();
     [[nodiscard]] ContextoDialogo Dialogos() { return {m_valores, m_ambiente, m_form}; }
@@ -61,7 +63,9 @@ private:
     BalaoDica m_balao;
     Relogio m_relogio;
     Comandos m_comandos;
-    std::unique_ptr<CicloJogo> m_ciclo;
     CargaJogo m_carga;
+    TabuleiroAcessivel m_acessivel;
+    std::unique_ptr<CicloJogo> m_ciclo;
+
     bool m_jaAtivou = false;
 };

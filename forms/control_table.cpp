@@ -129,6 +129,12 @@ private:
 
 } // namespace
 
+void NomeiaCampo(const Form &form, const char16_t *campo, const char16_t *rotulo)
+{
+    const auto &de = Acha<toolkit::Label>(form, rotulo);
+    Acha<toolkit::TextBox>(form, campo).SetAcessivel({.nome = [&de] { return de.Caption(); }});
+}
+
 void Define(Form &form, const DefForm &def)
 {
     form.setObjectName(QString::fromUtf16(def.nome));

@@ -67,6 +67,9 @@ struct DefForm
 /// Gives `form` the size, caption, picture and controls of its definition.
 void Define(toolkit::Form &form, const DefForm &def);
 
+/// Lets the text box `campo` be known to assistive technology by the caption of the label `rotulo`.
+void NomeiaCampo(const toolkit::Form &form, const char16_t *campo, const char16_t *rotulo);
+
 /// A control of a defined form. The name and the type must be the definition's.
 template <class T>
 T &Acha(const toolkit::Form &form, const char16_t *nome, int indice = -1)

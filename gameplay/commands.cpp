@@ -77,6 +77,9 @@ void Comandos::Desiste()
         celula.Fixa = true;
     }
     d.estado.TudoResolvido = true;
+    if (AoDesistir) {
+        AoDesistir();
+    }
 }
 
 void Comandos::Reinicia()
@@ -144,6 +147,9 @@ void Comandos::Label4_Click()
     // A wrong check has wiped the free cells, this one among them.
     celula.SetText(d.Quadrado(c).Letra);
     m_selecao.Text1_MouseDown(c);
+    if (AoDarLetra) {
+        AoDarLetra(c);
+    }
 }
 
 int Comandos::ProcuraCelulaVazia()

@@ -29,6 +29,9 @@ public:
     std::function<void()> AbreSalvar;
     std::function<void()> AbreRanking;
     std::function<void()> AbreSobre;
+    /// Told of each letter given as help, with its cell, and of each game given up. May be empty.
+    std::function<void(int c)> AoDarLetra;
+    std::function<void()> AoDesistir;
 
 private:
     void PrimeiraEntrada();

@@ -20,7 +20,11 @@ void Verificacao::VerificaPalavra(int i)
     d.c.Picture1.SetFocus();
     QString digitado = Digitado(d.Item(i));
     QString palavra = d.Item(i).Palavra;
-    if (ComparaPalavra(digitado, palavra)) {
+    const bool certa = ComparaPalavra(digitado, palavra);
+    if (AoJulgar) {
+        AoJulgar(i, certa);
+    }
+    if (certa) {
         Certa(i);
     } else {
         Errada(i);

@@ -27,6 +27,8 @@ public:
 
     /// Takes the time `t` of a finished game, in seconds; True if it reached the ranking.
     std::function<bool(int t)> VerificaRecords;
+    /// Told of each judgement on an item, before anything follows from it. May be empty.
+    std::function<void(int i, bool certa)> AoJulgar;
 
 private:
     [[nodiscard]] QString Digitado(const RegistroItem &item) const;

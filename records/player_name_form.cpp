@@ -10,6 +10,7 @@ FrmSeuNome::FrmSeuNome(const ContextoDialogo &contexto)
       m_text1((forms::Define(m_form, forms::kFrmSeuNome),
                forms::Acha<toolkit::TextBox>(m_form, u"Text1")))
 {
+    forms::NomeiaCampo(m_form, u"Text1", u"Label2");
     m_form.OnUnload = [this] { Form_Unload(); };
     m_form.Esc = [this] { m_form.Unload(); };
     forms::Acha<toolkit::CommandButton>(m_form, u"Command1").Click = [this] { m_form.Unload(); };

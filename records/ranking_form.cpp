@@ -41,7 +41,14 @@ void FrmHanking::LigaFechar()
     m_form.KeyDown = [this](int tecla) { return Form_KeyDown(tecla); };
     for (const auto &controle : m_form.Controls()) {
         controle->Click = fecha;
+        // A click anywhere closes, but only the button says so.
+        if (controle->TemFonte()) {
+            controle->SetAcessivel({.papel = toolkit::Papel::Texto});
+        }
     }
+    forms::Acha<toolkit::Image>(m_form, u"Image1").SetAcessivel({.nome = [] {
+        return QStringLiteral("Fechar");
+    }});
 }
 
 void FrmHanking::LigaTira()

@@ -17,11 +17,14 @@ FrmSalvar2::FrmSalvar2(const ContextoDialogo &contexto, const Tabuleiro &tabulei
                forms::Acha<toolkit::TextBox>(m_form, u"Text1"))),
       m_label3(forms::Acha<toolkit::Label>(m_form, u"Label3"))
 {
+    forms::NomeiaCampo(m_form, u"Text1", u"Label2");
     m_label3.SetCaption(QString::number(n));
     m_form.Activate = [this] { Form_Activate(); };
     m_form.Esc = [this] { m_form.Unload(); };
     forms::Acha<toolkit::CommandButton>(m_form, u"Command1").Click = [this] { Command1_Click(); };
-    forms::Acha<toolkit::Image>(m_form, u"Image1").Click = [this] { m_form.Unload(); };
+    auto &fechar = forms::Acha<toolkit::Image>(m_form, u"Image1");
+    fechar.Click = [this] { m_form.Unload(); };
+    fechar.SetAcessivel({.nome = [] { return QStringLiteral("Fechar"); }});
     forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
         ArrastaForm(m_form, mouse);
     };

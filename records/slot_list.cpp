@@ -30,7 +30,9 @@ ListaSlots::ListaSlots(const ContextoDialogo &contexto, const forms::DefForm &de
         label.Click = [this, Index] { LbSave_Click(Index); };
         label.MouseMove = [this, Index](const toolkit::Mouse &) { LbSave_MouseMove(Index); };
     }
-    forms::Acha<toolkit::Image>(m_form, u"Image1").Click = [this] { Unload(); };
+    auto &fechar = forms::Acha<toolkit::Image>(m_form, u"Image1");
+    fechar.Click = [this] { Unload(); };
+    fechar.SetAcessivel({.nome = [] { return QStringLiteral("Fechar"); }});
     forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
         ArrastaForm(m_form, mouse);
     };

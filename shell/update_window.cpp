@@ -44,7 +44,9 @@ void FrmBaixar::Form_Load()
 {
     const auto cancela = [this] { m_dl.CancelDownload(); };
     forms::Acha<toolkit::CommandButton>(m_form, u"Command1").Click = cancela;
-    forms::Acha<toolkit::Image>(m_form, u"Image1").Click = cancela;
+    auto &fechar = forms::Acha<toolkit::Image>(m_form, u"Image1");
+    fechar.Click = cancela;
+    fechar.SetAcessivel({.nome = [] { return QStringLiteral("Fechar"); }});
     forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
         ArrastaForm(m_form, mouse);
     };

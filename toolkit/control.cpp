@@ -1,6 +1,10 @@
 #include "toolkit/control.h"
 
+#include "toolkit/form.h"
+
+#include <QAccessible>
 #include <QMouseEvent>
+#include <utility>
 
 namespace toolkit {
 
@@ -69,6 +73,7 @@ void Control::SetVisible(bool visible)
     m_visible = visible;
     if (m_widget) {
         m_widget->setVisible(visible);
+        AvisaMudanca();
     }
 }
 
@@ -143,6 +148,33 @@ void Control::MostraAspecto()
     if (m_widget) {
         m_widget->setAttribute(Qt::WA_TransparentForMouseEvents, !m_enabled);
         m_widget->update();
+        AvisaMudanca();
+    }
+}
+
+void Control::SetAcessivel(Acessivel dito)
+{
+    m_acessivel = std::make_unique<const Acessivel>(std::move(dito));
+}
+
+const Acessivel &Control::GetAcessivel() const
+{
+    static const Acessivel nadaDito;
+    return m_acessivel ? *m_acessivel : nadaDito;
+}
+
+Papel Control::PapelAtual() const
+{
+    const Papel dito = GetAcessivel().papel;
+    return dito == Papel::Padrao ? PapelPadrao() : dito;
+}
+
+void Control::AvisaMudanca() const
+{
+    if (QAccessible::isActive()) {
+        if (auto *form = dynamic_cast<Form *>(m_widget->window())) {
+            form->AvisaMudanca();
+        }
     }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "toolkit/accessible.h"
 #include "toolkit/font.h"
 #include "toolkit/units.h"
 
 #include <functional>
+#include <memory>
 #include <QCursor>
 #include <QObject>
 #include <QPointer>
@@ -87,6 +89,14 @@ public:
     void SetFocus();
     [[nodiscard]] bool TemFoco() const;
 
+    /// What assistive technology is told of the control.
+    void SetAcessivel(Acessivel dito);
+    [[nodiscard]] const Acessivel &GetAcessivel() const;
+    /// The part that it plays there, never Papel::Padrao.
+    [[nodiscard]] Papel PapelAtual() const;
+    /// The name that it has there where nothing has been said.
+    [[nodiscard]] virtual QString NomePadrao() const { return {}; }
+
     /// The widget that shows the control, or null for one that never shows.
     [[nodiscard]] QWidget *Widget() const { return m_widget; }
     [[nodiscard]] const Origem &GetOrigem() const { return m_origem; }
@@ -107,6 +117,10 @@ protected:
     /// Takes over everything but name, index, container and visibility.
     void CopiaBase(const Control &molde);
     [[nodiscard]] QFont FonteQt() const { return ParaQt(m_font, m_origem.dpi); }
+    /// The part that its kind suggests to assistive technology.
+    [[nodiscard]] virtual Papel PapelPadrao() const { return Papel::Nenhum; }
+    /// Tells assistive technology of what reads differently now.
+    void AvisaMudanca() const;
     /// Whether mouse events stop here, behind the control's own handlers, or go on to the widget.
     [[nodiscard]] virtual bool ConsomeMouse() const { return true; }
 
@@ -129,6 +143,7 @@ private:
     Font m_font;
     QColor m_backColor = QColor(240, 240, 240);
     QColor m_foreColor = kPreto;
+    std::unique_ptr<const Acessivel> m_acessivel;
 };
 
 } // namespace toolkit

@@ -28,6 +28,7 @@ Qt::WindowFlags Bandeiras(Moldura moldura)
 
 Form::Form(Moldura moldura, int dpi) : QWidget(nullptr, Bandeiras(moldura)), m_dpi(dpi)
 {
+    InstalaAcessibilidade();
     setMouseTracking(true);
     QPalette claro;
     claro.setColor(QPalette::Window, QColor(240, 240, 240));
@@ -37,9 +38,11 @@ Form::Form(Moldura moldura, int dpi) : QWidget(nullptr, Bandeiras(moldura)), m_d
 
 Form::~Form()
 {
-    // Controls may still hear of focus changes while their siblings go.
+    // Controls may still hear of focus changes, and be asked for their names, while their siblings
+    // go.
     for (const auto &controle : m_controls) {
         controle->GotFocus = nullptr;
+        controle->SetAcessivel({});
     }
     m_controls.clear();
 }
@@ -184,6 +187,18 @@ void Form::Recorta()
     if (m_regiao && windowHandle() != nullptr) {
         RecortaJanela(*windowHandle(), m_regiao(devicePixelRatioF()));
     }
+}
+
+void Form::AvisaMudanca()
+{
+    if (std::exchange(m_mudancaPorContar, true)) {
+        return;
+    }
+    const auto conta = [this] {
+        m_mudancaPorContar = false;
+        ContaMudancas(*this);
+    };
+    QMetaObject::invokeMethod(this, conta, Qt::QueuedConnection);
 }
 
 void Form::paintEvent(QPaintEvent * /*evento*/)

@@ -79,6 +79,10 @@ public:
     /// colour of the picture's pixels that lie outside: they are never shown.
     void SetWindowRgn(const std::function<QRegion(qreal escala)> &regiao, QRgb chave);
 
+    /// One of its controls looks different: assistive technology is told what reads differently
+    /// now, once the event at hand is dealt with.
+    void AvisaMudanca();
+
     /// Fires when the form becomes the active window, the first time at the latest when it is
     /// shown.
     std::function<void()> Activate;
@@ -132,6 +136,7 @@ private:
     bool m_descarregado = false;
     bool m_ativadoNestaMostra = false;
     bool m_ativadoPorMostra = false;
+    bool m_mudancaPorContar = false;
     QEventLoop *m_espera = nullptr;
     std::vector<std::unique_ptr<Control>> m_controls;
 };

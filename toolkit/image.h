@@ -25,6 +25,12 @@ public:
     void CopiaDe(const Image &molde);
     void Pinta(QPainter &pintor, QSize tamanho) override;
 
+protected:
+    [[nodiscard]] Papel PapelPadrao() const override
+    {
+        return Click ? Papel::Botao : Papel::Nenhum;
+    }
+
 private:
     Picture m_picture;
     bool m_stretch = false;

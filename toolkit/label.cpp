@@ -49,6 +49,16 @@ void Label::SetBorderStyle(int borda)
     MostraAspecto();
 }
 
+QString Label::NomePadrao() const
+{
+    return Linhas(m_caption).join(u' ');
+}
+
+Papel Label::PapelPadrao() const
+{
+    return Click ? Papel::Botao : m_caption.isEmpty() ? Papel::Nenhum : Papel::Texto;
+}
+
 void Label::CopiaDe(const Label &molde)
 {
     m_caption = molde.m_caption;

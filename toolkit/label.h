@@ -23,6 +23,8 @@ public:
     /// 0: no border; 1: a thin frame.
     void SetBorderStyle(int borda);
     [[nodiscard]] int BorderStyle() const { return m_borda; }
+    /// The caption, its lines joined.
+    [[nodiscard]] QString NomePadrao() const override;
 
     /// A new member of the template's control array, hidden.
     void CopiaDe(const Label &molde);
@@ -30,6 +32,7 @@ public:
 
 protected:
     void MostraAspecto() override;
+    [[nodiscard]] Papel PapelPadrao() const override;
 
 private:
     void Ajusta();

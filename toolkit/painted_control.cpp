@@ -6,10 +6,13 @@ namespace toolkit {
 
 namespace {
 
-class Superficie final : public QWidget
+class Superficie final : public QWidget, public WidgetDeControle
 {
 public:
-    Superficie(QWidget *pai, PaintedControl &dono) : QWidget(pai), m_dono(dono) {}
+    Superficie(QWidget *pai, PaintedControl &dono)
+        : QWidget(pai), WidgetDeControle(dono), m_dono(dono)
+    {
+    }
 
 protected:
     void paintEvent(QPaintEvent * /*evento*/) override

@@ -11,12 +11,15 @@
 namespace toolkit {
 
 /// The widget: a line edit with a flat one-pixel frame.
-class TextBox::Campo final : public QLineEdit
+class TextBox::Campo final : public QLineEdit, public WidgetDeControle
 {
 public:
-    explicit Campo(QWidget *pai) : QLineEdit(pai) { setFrame(false); }
+    Campo(QWidget *pai, TextBox &dono) : QLineEdit(pai), WidgetDeControle(dono) { setFrame(false); }
 
     bool celula = false;
+
+    [[nodiscard]] QLineEdit *Linha() override { return this; }
+    [[nodiscard]] bool AceitaEscrita() const override { return !celula || hasFocus(); }
 
 protected:
     void paintEvent(QPaintEvent *evento) override
@@ -48,7 +51,7 @@ protected:
     }
 };
 
-TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(origem.pai))
+TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(origem.pai, *this))
 {
     UsaWidget(m_campo);
     SetBackColor(kBranco);
@@ -57,6 +60,7 @@ TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(orig
 
 void TextBox::TextoMudou()
 {
+    AvisaMudanca();
     QString texto = m_campo->text();
     const auto controle = [](QChar letra) { return letra.category() == QChar::Other_Control; };
     if (std::any_of(texto.cbegin(), texto.cend(), controle)) {

@@ -32,6 +32,7 @@ public:
 
 protected:
     void MostraAspecto() override;
+    [[nodiscard]] Papel PapelPadrao() const override { return Papel::Campo; }
     [[nodiscard]] bool ConsomeMouse() const override { return m_celula; }
 
 private:
