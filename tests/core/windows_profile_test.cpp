@@ -114,7 +114,8 @@ TEST(PerfilDoWindows, WritesTheSameBytesAndIsReadTheSame)
                                                doJogo));
         EscreveDoSistema(uma.secao, uma.chave, uma.valor, doSistema);
     }
-    EXPECT_EQ(PastaDeTeste::Conteudo(doJogo), PastaDeTeste::Conteudo(doSistema));
+    EXPECT_EQ(PastaDeTeste::Conteudo(doJogo).toStdString(),
+              PastaDeTeste::Conteudo(doSistema).toStdString());
     EXPECT_EQ(Compara(doSistema), 5);
 }
 
