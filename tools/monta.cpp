@@ -14,6 +14,10 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#ifdef Q_OS_WIN
+#include <fcntl.h>
+#include <io.h>
+#endif
 
 namespace {
 
@@ -196,6 +200,10 @@ int Executa(const Opcoes &opcoes)
 
 int main(int argc, char *argv[])
 {
+#ifdef Q_OS_WIN
+    // The same bytes on every system: no line end becomes two.
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
     const QCoreApplication aplicacao(argc, argv);
     const auto opcoes = LeitorOpcoes(QCoreApplication::arguments()).Le();
     return opcoes ? Executa(*opcoes) : kErro;
