@@ -48,7 +48,8 @@ public:
 
     /// Shows the form and waits until a board can be played.
     void Comeca();
-    /// Fills the ranking with times that nobody can beat: a game ends with its message and asks for no name.
+    /// Fills the ranking with times that nobody can beat: a game ends with its message and asks for
+    /// no name.
     void EncheRanking() const;
 
     [[nodiscard]] const ContextoJogo &d() const { return form->Jogo(); }
