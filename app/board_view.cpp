@@ -13,20 +13,22 @@ constexpr float kRecuoNumero = 5;
 
 void VistaTabuleiro::CarregaQuadrados()
 {
+    // Neighbours share a line, so the pitch is one less than the size: a pixel of the design, which
+    // the DPI adjustment will bring back to one pixel of the screen.
+    const float linha = static_cast<float>(d.c.form.Dpi()) / toolkit::kDpiPadrao;
     int coluna = 0;
     for (int i = 1; i <= kCelulas; ++i) {
         toolkit::TextBox &celula = d.c.Text1.Load(i);
         ++coluna;
         if (i > 1) {
-            // Neighbours share a line, so the pitch is one less than the size.
             const toolkit::TextBox &anterior = d.c.Text1(i - 1);
             if (coluna > kColunas) {
                 coluna = 1;
-                celula.SetTop(anterior.Top() + anterior.Height() - 1);
+                celula.SetTop(anterior.Top() + anterior.Height() - linha);
                 celula.SetLeft(d.c.Text1(i - kColunas).Left());
             } else {
                 celula.SetTop(anterior.Top());
-                celula.SetLeft(anterior.Left() + anterior.Width() - 1);
+                celula.SetLeft(anterior.Left() + anterior.Width() - linha);
             }
         }
         celula.SetText({});

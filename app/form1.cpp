@@ -148,7 +148,7 @@ void Form1::LigaComandos()
     m_c.Label4.Click = [this] { m_comandos.Label4_Click(); };
     m_c.Image2.Click = [this] { m_comandos.Image2_Click(); };
     m_c.Image8.Click = [this] { m_comandos.Image8_Click(); };
-    m_c.Image3.MouseMove = [this](const toolkit::Mouse &mouse) { ArrastaForm(m_form, mouse); };
+    LigaTira(m_form, m_c.Image3);
     m_comandos.NovoJogo = [this] { m_ciclo->NovoJogo(); };
     m_comandos.AbreSobre = [this] {
         FrmSobre sobre(m_valores, m_ambiente, m_form.Dpi(), LugaresDoPrograma(m_valores));

@@ -14,9 +14,7 @@ FrmSeuNome::FrmSeuNome(const ContextoDialogo &contexto)
     m_form.OnUnload = [this] { Form_Unload(); };
     m_form.Esc = [this] { m_form.Unload(); };
     forms::Acha<toolkit::CommandButton>(m_form, u"Command1").Click = [this] { m_form.Unload(); };
-    forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
-        ArrastaForm(m_form, mouse);
-    };
+    LigaTira(m_form, forms::Acha<toolkit::Image>(m_form, u"Image3"));
     Form_Load();
 }
 

@@ -25,9 +25,7 @@ FrmSalvar2::FrmSalvar2(const ContextoDialogo &contexto, const Tabuleiro &tabulei
     auto &fechar = forms::Acha<toolkit::Image>(m_form, u"Image1");
     fechar.Click = [this] { m_form.Unload(); };
     fechar.SetAcessivel({.nome = [] { return QStringLiteral("Fechar"); }});
-    forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
-        ArrastaForm(m_form, mouse);
-    };
+    LigaTira(m_form, forms::Acha<toolkit::Image>(m_form, u"Image3"));
     Form_Load();
 }
 

@@ -33,9 +33,7 @@ ListaSlots::ListaSlots(const ContextoDialogo &contexto, const forms::DefForm &de
     auto &fechar = forms::Acha<toolkit::Image>(m_form, u"Image1");
     fechar.Click = [this] { Unload(); };
     fechar.SetAcessivel({.nome = [] { return QStringLiteral("Fechar"); }});
-    forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
-        ArrastaForm(m_form, mouse);
-    };
+    LigaTira(m_form, forms::Acha<toolkit::Image>(m_form, u"Image3"));
     m_form.Esc = [this] { Unload(); };
     Form_Load();
 }

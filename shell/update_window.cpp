@@ -47,9 +47,7 @@ void FrmBaixar::Form_Load()
     auto &fechar = forms::Acha<toolkit::Image>(m_form, u"Image1");
     fechar.Click = cancela;
     fechar.SetAcessivel({.nome = [] { return QStringLiteral("Fechar"); }});
-    forms::Acha<toolkit::Image>(m_form, u"Image3").MouseMove = [this](const toolkit::Mouse &mouse) {
-        ArrastaForm(m_form, mouse);
-    };
+    LigaTira(m_form, forms::Acha<toolkit::Image>(m_form, u"Image3"));
     m_form.Esc = cancela;
     m_form.QueryClose = cancela;
     DaForma(m_form, m_valores);

@@ -2,8 +2,6 @@
 
 #include "shell/region_runs.h"
 
-#include <vector>
-
 namespace {
 
 /// What is cut out of the windows.
@@ -24,14 +22,10 @@ std::optional<QRegion> RegiaoDaFigura(const QImage &pic, QRgb cor)
     if (!trechos) {
         return std::nullopt;
     }
-    std::vector<QRect> retangulos;
-    retangulos.reserve(trechos->size());
-    for (const TrechoDaFigura &trecho : *trechos) {
-        retangulos.emplace_back(trecho.x0, trecho.y, trecho.x1 - trecho.x0, 1);
-    }
-    // The runs come row by row and from left to right, which is a region's own order.
     QRegion regiao;
-    regiao.setRects(retangulos.data(), static_cast<int>(retangulos.size()));
+    for (const TrechoDaFigura &trecho : *trechos) {
+        regiao += QRect(trecho.x0, trecho.y, trecho.x1 - trecho.x0, 1);
+    }
     return regiao;
 }
 
@@ -60,4 +54,15 @@ void ArrastaForm(toolkit::Form &form, const toolkit::Mouse &mouse)
     } else {
         form.Solta();
     }
+}
+
+void LigaTira(toolkit::Form &form, toolkit::Control &tira)
+{
+    tira.MouseDown = [&form](const toolkit::Mouse &mouse) {
+        form.Solta();
+        if (mouse.botoes == Qt::LeftButton) {
+            form.Pega();
+        }
+    };
+    tira.MouseMove = [&form](const toolkit::Mouse &mouse) { ArrastaForm(form, mouse); };
 }

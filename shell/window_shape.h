@@ -17,3 +17,6 @@ void DaForma(toolkit::Form &form, ValoresPrograma &valores);
 /// The drag strip's mouse handler: with the left button down the system takes over and moves the
 /// window as if its title bar had been grabbed.
 void ArrastaForm(toolkit::Form &form, const toolkit::Mouse &mouse);
+
+/// Makes `tira` the drag strip of `form`.
+void LigaTira(toolkit::Form &form, toolkit::Control &tira);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
@@ -162,17 +163,31 @@ void Form::Unload()
     }
 }
 
+void Form::Pega()
+{
+    m_moveSistema = windowHandle() != nullptr && windowHandle()->startSystemMove();
+}
+
 void Form::Arrasta(const Mouse &mouse)
 {
     if (m_aperto != mouse.aperto) {
         m_aperto = mouse.aperto;
         m_pegada = mouse.aperto - pos();
-        // The pointer has moved since it was pressed; the system counts from now on.
-        move(mouse.global - m_pegada);
-        m_moveSistema = windowHandle() != nullptr && windowHandle()->startSystemMove();
-    } else if (!m_moveSistema) {
+        // Some systems let nobody but themselves move a window.
+        if (!m_moveSistema &&
+            QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
+            Pega();
+        }
+    }
+    if (!m_moveSistema) {
         move(mouse.global - m_pegada);
     }
+}
+
+void Form::Solta()
+{
+    m_aperto.reset();
+    m_moveSistema = false;
 }
 
 void Form::SetWindowRgn(const std::function<QRegion(qreal)> &regiao, QRgb chave)

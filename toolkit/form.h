@@ -69,11 +69,15 @@ public:
     /// Closes the form and ends the wait of ShowModal.
     void Unload();
 
-    /// Moves the window with the pointer, as if its title bar had been grabbed: by the system where
-    /// it can, else by the program. To be called at each movement with the left button down.
+    /// The left button has gone down on a drag strip: lets the system move the window with the
+    /// pointer, as if its title bar had been grabbed, if it can. From the press on, so that the
+    /// window goes exactly the mouse's way.
+    void Pega();
+    /// Moves the window with the pointer where the system does not. To be called at each movement
+    /// with the left button down.
     void Arrasta(const Mouse &mouse);
     /// The button is no longer down: a later press takes hold of the window anew.
-    void Solta() { m_aperto.reset(); }
+    void Solta();
     /// Cuts the window to a region. `regiao` gives it in device pixels for a screen of `escala`
     /// device pixels to the pixel; an empty one leaves the window a rectangle. `chave` is the
     /// colour of the picture's pixels that lie outside: they are never shown.
