@@ -218,6 +218,16 @@ void Form::AvisaMudanca()
 
 void Form::paintEvent(QPaintEvent * /*evento*/)
 {
+    if (!std::exchange(m_pintadoNestaMostra, true)) {
+        // A form counts as shown once the player sees it: the handler may keep the program busy.
+        // And where no window manager tells us that we are active, being shown must do.
+        QTimer::singleShot(0, this, [this] {
+            if (isVisible() && !m_ativadoNestaMostra) {
+                m_ativadoPorMostra = !isActiveWindow();
+                DisparaActivate();
+            }
+        });
+    }
     if (!m_picture.IsNull()) {
         QPainter pintor(this);
         pintor.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -288,13 +298,7 @@ void Form::showEvent(QShowEvent *evento)
     QObject::connect(windowHandle(), &QWindow::screenChanged, this, &Form::Recorta,
                      Qt::UniqueConnection);
     m_ativadoNestaMostra = false;
-    // Where no window manager tells us that we are active, being shown must do.
-    QTimer::singleShot(0, this, [this] {
-        if (isVisible() && !m_ativadoNestaMostra) {
-            m_ativadoPorMostra = true;
-            DisparaActivate();
-        }
-    });
+    m_pintadoNestaMostra = false;
 }
 
 void Form::DisparaActivate()
@@ -309,8 +313,10 @@ bool Form::event(QEvent *evento)
 {
     if (evento->type() == QEvent::WindowActivate) {
         const bool feito = QWidget::event(evento);
-        // The activation that belongs to a showing already reported is no new one.
-        if (!std::exchange(m_ativadoPorMostra, false)) {
+        // An activation before the first painting waits for it, and one that belongs to a showing
+        // already reported is no new one.
+        if (m_pintadoNestaMostra && m_ativadoNestaMostra &&
+            !std::exchange(m_ativadoPorMostra, false)) {
             DisparaActivate();
         }
         return feito;

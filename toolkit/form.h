@@ -138,6 +138,7 @@ private:
     float m_height = 0;
     bool m_lugarDado = false;
     bool m_descarregado = false;
+    bool m_pintadoNestaMostra = false;
     bool m_ativadoNestaMostra = false;
     bool m_ativadoPorMostra = false;
     bool m_mudancaPorContar = false;
