@@ -10,6 +10,9 @@
 namespace {
 
 constexpr int kEsperaMs = 1000;
+/// The wait for the banner's first painting.
+constexpr int kVoltasBanner = 60;
+constexpr int kVoltaMs = 5;
 
 } // namespace
 
@@ -39,10 +42,23 @@ void FrmSplash::Form_Load()
     forms::Acha<toolkit::Label>(m_form, u"Label3").SetCaption(TextoVersao());
 }
 
+/// Lets events run until the banner is there to be seen: a system can call a window active before
+/// it has been painted, and its second must not run on an empty screen. A window that is never
+/// painted is not waited for.
+void FrmSplash::MostraBanner()
+{
+    m_ambiente.deixaEventos();
+    for (int volta = 0; volta < kVoltasBanner && !m_form.Pintada(); ++volta) {
+        m_ambiente.dorme(kVoltaMs);
+        m_ambiente.deixaEventos();
+    }
+    m_ambiente.deixaEventos();
+}
+
 void FrmSplash::Form_Activate()
 {
     m_form.Activate = nullptr;
-    m_ambiente.deixaEventos();
+    MostraBanner();
     m_ambiente.dorme(kEsperaMs);
     m_ambiente.deixaEventos();
     m_principal = std::make_unique<Form1>(m_valores, m_ambiente, m_form.Dpi());

@@ -24,6 +24,7 @@ public:
 private:
     void Form_Load();
     void Form_Activate();
+    void MostraBanner();
 
     ValoresPrograma &m_valores;
     Ambiente &m_ambiente;

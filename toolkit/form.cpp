@@ -218,16 +218,7 @@ void Form::AvisaMudanca()
 
 void Form::paintEvent(QPaintEvent * /*evento*/)
 {
-    if (!std::exchange(m_pintadoNestaMostra, true)) {
-        // A form counts as shown once the player sees it: the handler may keep the program busy.
-        // And where no window manager tells us that we are active, being shown must do.
-        QTimer::singleShot(0, this, [this] {
-            if (isVisible() && !m_ativadoNestaMostra) {
-                m_ativadoPorMostra = !isActiveWindow();
-                DisparaActivate();
-            }
-        });
-    }
+    m_pintada = true;
     if (!m_picture.IsNull()) {
         QPainter pintor(this);
         pintor.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -297,8 +288,15 @@ void Form::showEvent(QShowEvent *evento)
     // Another screen can have another resolution.
     QObject::connect(windowHandle(), &QWindow::screenChanged, this, &Form::Recorta,
                      Qt::UniqueConnection);
+    m_pintada = false;
     m_ativadoNestaMostra = false;
-    m_pintadoNestaMostra = false;
+    // Where no window manager tells us that we are active, being shown must do.
+    QTimer::singleShot(0, this, [this] {
+        if (isVisible() && !m_ativadoNestaMostra) {
+            m_ativadoPorMostra = true;
+            DisparaActivate();
+        }
+    });
 }
 
 void Form::DisparaActivate()
@@ -313,10 +311,8 @@ bool Form::event(QEvent *evento)
 {
     if (evento->type() == QEvent::WindowActivate) {
         const bool feito = QWidget::event(evento);
-        // An activation before the first painting waits for it, and one that belongs to a showing
-        // already reported is no new one.
-        if (m_pintadoNestaMostra && m_ativadoNestaMostra &&
-            !std::exchange(m_ativadoPorMostra, false)) {
+        // The activation that belongs to a showing already reported is no new one.
+        if (!std::exchange(m_ativadoPorMostra, false)) {
             DisparaActivate();
         }
         return feito;

@@ -63,6 +63,8 @@ public:
 
     /// Shows the form, not modal.
     void Show();
+    /// Whether the form has been painted since it was shown last.
+    [[nodiscard]] bool Pintada() const { return m_pintada; }
     /// Shows the form modal on `dona` and waits until it is closed.
     void ShowModal(QWidget *dona);
     void Hide() { hide(); }
@@ -138,7 +140,7 @@ private:
     float m_height = 0;
     bool m_lugarDado = false;
     bool m_descarregado = false;
-    bool m_pintadoNestaMostra = false;
+    bool m_pintada = false;
     bool m_ativadoNestaMostra = false;
     bool m_ativadoPorMostra = false;
     bool m_mudancaPorContar = false;
