@@ -1,5 +1,6 @@
 #include "shell/dpi_adjuster.h"
 
+#include "shell/center_form.h"
 #include "toolkit/image.h"
 #include "toolkit/picture_box.h"
 
@@ -71,6 +72,10 @@ void AjustarDpi(toolkit::Form &form)
         return;
     }
     form.SetSize(larguraFigura + (w - larguraVelha), alturaFigura + (h - alturaVelha));
+    if (form.TemLugar()) {
+        // It was centred with its old size.
+        CentralizaForm(form);
+    }
     ReposicionaObjetos(form, GuardaPosicoes(form), form.ScaleWidth() / larguraVelha,
                        form.ScaleHeight() / alturaVelha);
 }

@@ -36,6 +36,9 @@ public:
 
     [[nodiscard]] float Left() const { return m_left; }
     [[nodiscard]] float Top() const { return m_top; }
+    /// Whether the form has been given a place; one that has not is centred on its owner when it is
+    /// shown.
+    [[nodiscard]] bool TemLugar() const { return m_lugarDado; }
     void SetLeft(float left);
     void SetTop(float top);
     [[nodiscard]] float Width() const { return m_width; }

@@ -33,6 +33,8 @@ TEST(AjustarDpi, PutsEveryControlOnItsPlaceOnTheBitmap)
         JogoDeTeste outro(1, BancoInventado(600), dpi);
         EXPECT_TRUE(outro.valores.DpiDiferente);
         EXPECT_EQ(outro.form->Janela().size(), QSize(652, 499)) << dpi;
+        const QPoint longe = outro.form->Janela().pos() - normal.form->Janela().pos();
+        EXPECT_LE(longe.manhattanLength(), 2) << "off the middle of the screen at " << dpi;
         EXPECT_NEAR(outro.c().Text1(300).Width(), 19, 0.001) << dpi;
         const auto esperado = Lugares(normal.form->Janela());
         const auto lugares = Lugares(outro.form->Janela());
