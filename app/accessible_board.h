@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/board/spoken_text.h"
 #include "gameplay/play_context.h"
-#include "gameplay/spoken_text.h"
 #include "toolkit/announcer.h"
 
 /// The main form for a player who cannot see it: says what each control is, and announces what a

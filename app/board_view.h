@@ -1,6 +1,6 @@
 #pragma once
 
-#include "builder/word_placing.h"
+#include "core/builder/word_placing.h"
 #include "gameplay/play_context.h"
 
 /// Shows the board model on the main form's controls, and follows a build word by word.

@@ -1,6 +1,7 @@
 #include "app/form1.h"
 
 #include "assets/pictures.h"
+#include "core/registry/screen_dpi.h"
 #include "records/load_form.h"
 #include "records/ranking_check.h"
 #include "records/ranking_form.h"
@@ -8,7 +9,6 @@
 #include "shell/about.h"
 #include "shell/center_form.h"
 #include "shell/dpi_adjuster.h"
-#include "shell/screen_dpi.h"
 #include "shell/window_shape.h"
 
 namespace {

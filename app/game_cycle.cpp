@@ -1,7 +1,7 @@
 #include "app/game_cycle.h"
 
-#include "builder/build_attempts.h"
-#include "shell/shared_routines.h"
+#include "core/builder/build_attempts.h"
+#include "core/machine/shared_routines.h"
 
 #include <QScopedValueRollback>
 

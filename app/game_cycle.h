@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/board_view.h"
-#include "bank/question_bank.h"
-#include "bank/used_words.h"
-#include "builder/fill_driver.h"
+#include "core/bank/question_bank.h"
+#include "core/bank/used_words.h"
+#include "core/builder/fill_driver.h"
 #include "gameplay/selection.h"
 
 /// The bank of a run, with what is worked out about it, and the memory of words used before.

@@ -1,6 +1,6 @@
 #include "app/load_game.h"
 
-#include "shell/shared_routines.h"
+#include "core/machine/shared_routines.h"
 
 #include <QScopedValueRollback>
 

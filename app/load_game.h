@@ -1,10 +1,10 @@
 #pragma once
 
 #include "app/board_view.h"
+#include "core/records/save_slot.h"
 #include "gameplay/letter_entry.h"
 #include "gameplay/selection.h"
 #include "gameplay/word_check.h"
-#include "records/save_slot.h"
 
 /// From whatever stands on the board to a saved game that the player can go on with.
 class CargaJogo

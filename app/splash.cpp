@@ -1,11 +1,11 @@
 #include "app/splash.h"
 
 #include "app/form1.h"
+#include "core/registry/screen_dpi.h"
 #include "forms/splash.h"
 #include "quadrelo_version.h"
 #include "shell/center_form.h"
 #include "shell/dpi_adjuster.h"
-#include "shell/screen_dpi.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/program_state.h"
-#include "shell/ambiente.h"
+#include "core/machine/ambiente.h"
+#include "core/machine/program_state.h"
 #include "toolkit/form.h"
 
 #include <memory>

@@ -1,10 +1,10 @@
 #include <benchmark/benchmark.h>
 #include <QTemporaryDir>
 
-#include "bank/ini_file.h"
-#include "bank/used_words.h"
-#include "records/ranking_table.h"
-#include "records/save_slot.h"
+#include "core/bank/used_words.h"
+#include "core/files/ini_file.h"
+#include "core/records/ranking_table.h"
+#include "core/records/save_slot.h"
 
 /// What the stored files cost. All that writes waits for the disk; "SmallestWrite" is the least
 /// that such a wait costs here, and "PushWithoutDisk" is what a push costs beside it.

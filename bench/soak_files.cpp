@@ -9,10 +9,10 @@
 #include <random>
 #include <thread>
 
-#include "bank/ini_file.h"
-#include "bank/used_words.h"
-#include "records/ranking_table.h"
-#include "records/save_slot.h"
+#include "core/bank/used_words.h"
+#include "core/files/ini_file.h"
+#include "core/records/ranking_table.h"
+#include "core/records/save_slot.h"
 
 /// soak_files [ROUNDS [SEED]]: in each round (1000 unless told otherwise) a child process pushes
 /// used words, saves a game and enters the ranking, and is killed at a moment drawn by chance.

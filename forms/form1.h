@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/board.h"
+#include "core/board/board.h"
 #include "forms/control_table.h"
 #include "toolkit/control_array.h"
 

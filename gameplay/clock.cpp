@@ -1,6 +1,6 @@
 #include "gameplay/clock.h"
 
-#include "shell/shared_routines.h"
+#include "core/machine/shared_routines.h"
 
 void Relogio::Timer1_Timer()
 {

@@ -1,6 +1,6 @@
 #include "gameplay/letter_entry.h"
 
-#include "shell/shared_routines.h"
+#include "core/machine/shared_routines.h"
 
 void EntradaLetras::Text1_Change(int Index)
 {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/board.h"
-#include "app/program_state.h"
+#include "core/board/board.h"
+#include "core/machine/ambiente.h"
+#include "core/machine/program_state.h"
 #include "forms/form1.h"
-#include "shell/ambiente.h"
 
 /// What the rooms of play work on. Everything belongs to the main form and lives as long as it.
 struct ContextoJogo

@@ -1,6 +1,6 @@
 #include "gameplay/selection.h"
 
-#include "shell/sound.h"
+#include "core/machine/sound.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "gameplay/word_check.h"
 
+#include "core/machine/shared_routines.h"
+#include "core/machine/sound.h"
 #include "gameplay/selection.h"
-#include "shell/shared_routines.h"
-#include "shell/sound.h"
 
 #include <utility>
 

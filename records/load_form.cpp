@@ -1,7 +1,7 @@
 #include "records/load_form.h"
 
+#include "core/machine/sound.h"
 #include "forms/slot_forms.h"
-#include "shell/sound.h"
 
 #include <QScopedValueRollback>
 #include <utility>

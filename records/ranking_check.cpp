@@ -1,9 +1,9 @@
 #include "records/ranking_check.h"
 
+#include "core/records/ranking_table.h"
 #include "forms/slot_forms.h"
 #include "records/player_name_form.h"
 #include "records/ranking_form.h"
-#include "records/ranking_table.h"
 
 static_assert(forms::kMaximoNome == kTamanhoNome);
 

@@ -1,7 +1,7 @@
 #include "records/ranking_form.h"
 
+#include "core/records/ranking_table.h"
 #include "forms/ranking_forms.h"
-#include "records/ranking_table.h"
 #include "shell/dpi_adjuster.h"
 #include "shell/window_shape.h"
 

@@ -1,8 +1,8 @@
 #include "records/save_form.h"
 
+#include "core/machine/sound.h"
 #include "forms/slot_forms.h"
 #include "records/save_name_form.h"
-#include "shell/sound.h"
 
 FrmSalvar::FrmSalvar(const ContextoDialogo &contexto, const Tabuleiro &tabuleiro)
     : d(contexto),

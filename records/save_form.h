@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/board.h"
+#include "core/board/board.h"
 #include "records/slot_list.h"
 
 /// The dialog in which the slot to save into is picked. The naming and the saving are FrmSalvar2's.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/board.h"
+#include "core/board/board.h"
 #include "records/dialog_context.h"
 #include "toolkit/label.h"
 #include "toolkit/text_box.h"

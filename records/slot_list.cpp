@@ -1,7 +1,7 @@
 #include "records/slot_list.h"
 
+#include "core/records/save_slot.h"
 #include "forms/slot_forms.h"
-#include "records/save_slot.h"
 #include "shell/center_form.h"
 #include "shell/dpi_adjuster.h"
 #include "shell/window_shape.h"

@@ -1,10 +1,10 @@
 #include "shell/about.h"
 
 #include "assets/pictures.h"
+#include "core/machine/shared_routines.h"
+#include "core/registry/temp_folder.h"
 #include "forms/about.h"
 #include "quadrelo_version.h"
-#include "shell/shared_routines.h"
-#include "shell/temp_folder.h"
 #include "shell/update_window.h"
 #include "toolkit/command_button.h"
 #include "toolkit/image.h"

@@ -1,6 +1,6 @@
 #include "shell/downloader.h"
 
-#include "bank/codepage.h"
+#include "core/files/codepage.h"
 #include <cmath>
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/ambiente.h"
+#include "core/machine/ambiente.h"
 #include "shell/async_read.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "shell/language.h"
 
-#include "app/program_state.h"
+#include "core/machine/program_state.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

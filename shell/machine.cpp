@@ -1,8 +1,8 @@
 #include "shell/machine.h"
 
-#include "shell/day_clock.h"
+#include "core/machine/day_clock.h"
+#include "core/machine/steady_clock.h"
 #include "shell/sound_player.h"
-#include "shell/steady_clock.h"
 #include "toolkit/message_box.h"
 
 #include <cstdlib>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/registry_access.h"
-#include "shell/registry_store.h"
+#include "core/registry/registry_access.h"
+#include "core/registry/registry_store.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #include "shell/update_window.h"
 
+#include "core/files/download_file.h"
 #include "forms/update_window.h"
-#include "shell/download_file.h"
 #include "shell/dpi_adjuster.h"
 #include "shell/progress_bar.h"
 #include "shell/window_shape.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/program_state.h"
+#include "core/machine/program_state.h"
 #include "shell/downloader.h"
 #include "toolkit/form.h"
 

@@ -1,7 +1,7 @@
 #include "tools/bank_source.h"
 
-#include "bank/codepage.h"
-#include "bank/question_bank.h"
+#include "core/bank/question_bank.h"
+#include "core/files/codepage.h"
 #include <QHash>
 #include <QRegularExpression>
 #include <QStringDecoder>

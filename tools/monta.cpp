@@ -1,11 +1,11 @@
 // Prints puzzles without a window:
 //   monta --banco FILE.tes --semente N [--jogos K] [--memoria] [--quieto]
 
-#include "bank/question_bank.h"
-#include "bank/used_words.h"
-#include "builder/build_attempts.h"
-#include "builder/fill_driver.h"
-#include "builder/word_index.h"
+#include "core/bank/question_bank.h"
+#include "core/bank/used_words.h"
+#include "core/builder/build_attempts.h"
+#include "core/builder/fill_driver.h"
+#include "core/builder/word_index.h"
 
 #include <algorithm>
 #include <cstdio>

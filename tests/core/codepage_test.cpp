@@ -1,4 +1,4 @@
-#include "bank/codepage.h"
+#include "core/files/codepage.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "shell/day_clock.h"
-#include "shell/steady_clock.h"
+#include "core/machine/day_clock.h"
+#include "core/machine/steady_clock.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "shell/download_file.h"
+#include "core/files/download_file.h"
 
 #include <gtest/gtest.h>
 

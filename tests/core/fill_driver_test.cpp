@@ -1,8 +1,8 @@
-#include "builder/fill_driver.h"
+#include "core/builder/fill_driver.h"
 
 #include <gtest/gtest.h>
 
-#include "bank/codepage.h"
+#include "core/files/codepage.h"
 #include "support/sample_banks.h"
 #include <map>
 #include <memory>

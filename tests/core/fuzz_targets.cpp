@@ -4,13 +4,13 @@
 #include <QList>
 #include <variant>
 
-#include "bank/ini_text.h"
-#include "bank/question_bank.h"
-#include "builder/word_index.h"
-#include "records/ranking_table.h"
-#include "records/save_slot.h"
-#include "shell/registry_access.h"
-#include "shell/registry_store_portable.h"
+#include "core/bank/question_bank.h"
+#include "core/builder/word_index.h"
+#include "core/files/ini_text.h"
+#include "core/records/ranking_table.h"
+#include "core/records/save_slot.h"
+#include "core/registry/registry_access.h"
+#include "core/registry/registry_store_portable.h"
 #include "tests/core/slow_ini.h"
 #include "tests/core/test_board.h"
 #include "tests/core/test_files.h"

@@ -1,4 +1,4 @@
-#include "bank/ini_file.h"
+#include "core/files/ini_file.h"
 
 #include <gtest/gtest.h>
 

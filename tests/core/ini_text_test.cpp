@@ -1,4 +1,4 @@
-#include "bank/ini_text.h"
+#include "core/files/ini_text.h"
 
 #include <gtest/gtest.h>
 

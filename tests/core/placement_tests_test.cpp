@@ -1,8 +1,8 @@
-#include "builder/placement_tests.h"
+#include "core/builder/placement_tests.h"
 
 #include <gtest/gtest.h>
 
-#include "builder/word_index.h"
+#include "core/builder/word_index.h"
 #include "support/sample_banks.h"
 #include "support/slow_builder.h"
 #include <memory>

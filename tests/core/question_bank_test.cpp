@@ -1,4 +1,4 @@
-#include "bank/question_bank.h"
+#include "core/bank/question_bank.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "records/ranking_table.h"
+#include "core/records/ranking_table.h"
 
 #include <gtest/gtest.h>
 
-#include "bank/ini_file.h"
+#include "core/files/ini_file.h"
 #include "tests/core/test_files.h"
 
 namespace {

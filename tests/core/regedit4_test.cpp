@@ -1,11 +1,11 @@
-#include "shell/registry_access.h"
+#include "core/registry/registry_access.h"
 
 #include <gtest/gtest.h>
 
-#include "bank/codepage.h"
-#include "shell/chance.h"
-#include "shell/registry_store_portable.h"
-#include "shell/registry_text.h"
+#include "core/files/codepage.h"
+#include "core/machine/chance.h"
+#include "core/registry/registry_store_portable.h"
+#include "core/registry/registry_text.h"
 #include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>

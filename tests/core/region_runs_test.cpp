@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/chance.h"
+#include "core/machine/chance.h"
 #include <array>
 
 namespace {

@@ -1,9 +1,9 @@
-#include "shell/registry_access.h"
+#include "core/registry/registry_access.h"
 
 #include <gtest/gtest.h>
 
-#include "shell/registry_store_portable.h"
-#include "shell/registry_text.h"
+#include "core/registry/registry_store_portable.h"
+#include "core/registry/registry_text.h"
 #include <array>
 
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/registry_store_portable.h"
+#include "core/registry/registry_store_portable.h"
 
 #include <gtest/gtest.h>
 

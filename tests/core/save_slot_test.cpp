@@ -1,8 +1,8 @@
-#include "records/save_slot.h"
+#include "core/records/save_slot.h"
 
 #include <gtest/gtest.h>
 
-#include "bank/ini_file.h"
+#include "core/files/ini_file.h"
 #include "tests/core/test_board.h"
 #include "tests/core/test_files.h"
 

@@ -1,8 +1,8 @@
-#include "shell/shared_routines.h"
+#include "core/machine/shared_routines.h"
 
 #include <gtest/gtest.h>
 
-#include "shell/chance.h"
+#include "core/machine/chance.h"
 #include <array>
 
 namespace {

@@ -1,4 +1,4 @@
-#include "gameplay/spoken_text.h"
+#include "core/board/spoken_text.h"
 #include "tests/core/test_board.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
-#include "shell/temp_folder.h"
+#include "core/registry/temp_folder.h"
 
 #include <gtest/gtest.h>
 
-#include "shell/registry_access.h"
-#include "shell/registry_store_portable.h"
+#include "core/registry/registry_access.h"
+#include "core/registry/registry_store_portable.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>

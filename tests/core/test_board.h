@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/board.h"
+#include "core/board/board.h"
 
 /// A complete board of 26 words that fit: twenty lie in the first column's rows, six stand across
 /// them. `jogo` tells the clues of one game from those of another.

@@ -1,8 +1,8 @@
-#include "bank/used_words.h"
+#include "core/bank/used_words.h"
 
 #include <gtest/gtest.h>
 
-#include "bank/ini_file.h"
+#include "core/files/ini_file.h"
 #include "tests/core/test_files.h"
 
 namespace {

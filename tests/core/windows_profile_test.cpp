@@ -1,9 +1,9 @@
 // Only on Windows: the stored files against the system's own INI functions.
 
-#include "bank/ini_file.h"
-#include "bank/used_words.h"
-#include "records/ranking_table.h"
-#include "records/save_slot.h"
+#include "core/bank/used_words.h"
+#include "core/files/ini_file.h"
+#include "core/records/ranking_table.h"
+#include "core/records/save_slot.h"
 
 #include <array>
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
-#include "builder/word_placing.h"
+#include "core/builder/word_placing.h"
 
 #include <gtest/gtest.h>
 
-#include "builder/build_attempts.h"
-#include "builder/rescue.h"
+#include "core/builder/build_attempts.h"
+#include "core/builder/rescue.h"
 #include "support/sample_banks.h"
 #include <QStringList>
 

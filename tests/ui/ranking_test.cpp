@@ -1,5 +1,5 @@
+#include "core/records/ranking_table.h"
 #include "records/ranking_check.h"
-#include "records/ranking_table.h"
 #include "tests/core/test_files.h"
 #include "tests/ui/support/dialog_game.h"
 

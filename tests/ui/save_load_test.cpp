@@ -1,5 +1,5 @@
-#include "bank/ini_file.h"
-#include "records/save_slot.h"
+#include "core/files/ini_file.h"
+#include "core/records/save_slot.h"
 #include "tests/core/test_board.h"
 #include "tests/core/test_files.h"
 #include "tests/ui/support/dialog_game.h"

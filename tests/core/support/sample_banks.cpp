@@ -1,6 +1,6 @@
 #include "sample_banks.h"
 
-#include "bank/codepage.h"
+#include "core/files/codepage.h"
 #include <random>
 #include <set>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "builder/fill_driver.h"
+#include "core/builder/fill_driver.h"
 #include <cstdint>
 #include <QByteArray>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "tests/ui/support/test_game.h"
 
 #include "app/splash.h"
-#include "bank/codepage.h"
-#include "records/ranking_table.h"
+#include "core/files/codepage.h"
+#include "core/records/ranking_table.h"
 
 #include <QApplication>
 #include <QClipboard>

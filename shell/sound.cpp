@@ -1,8 +1,0 @@
-#include "shell/sound.h"
-
-void TocaSom(const ValoresPrograma &valores, const Ambiente &ambiente, QStringView nome)
-{
-    if (valores.SomLigado) {
-        ambiente.tocaArquivo(Caminho(valores.PastaPrograma, nome));
-    }
-}

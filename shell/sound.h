@@ -1,8 +1,0 @@
-#pragma once
-
-#include "app/program_state.h"
-#include "shell/ambiente.h"
-
-/// Plays the sound file `nome` of the program's directory, unless sound is off. Returns at once; a
-/// new sound cuts off the one still playing. Nothing is reported.
-void TocaSom(const ValoresPrograma &valores, const Ambiente &ambiente, QStringView nome);
