@@ -1,9 +1,9 @@
-#include "app/form1.h"
-#include "app/splash.h"
-#include "shell/language.h"
-#include "shell/machine.h"
-#include "shell/registry_start.h"
-#include "toolkit/units.h"
+#include "ui/machine/language.h"
+#include "ui/machine/machine.h"
+#include "ui/machine/registry_start.h"
+#include "ui/main_form/form1.h"
+#include "ui/main_form/splash.h"
+#include "ui/toolkit/units.h"
 
 #include <QApplication>
 #include <QScreen>

@@ -1,10 +1,10 @@
-#include "shell/about.h"
+#include "ui/update/about.h"
 
 #include <gtest/gtest.h>
 
-#include "forms/control_table.h"
 #include "tests/ui/support/net_machine.h"
 #include "tests/ui/support/net_server.h"
+#include "ui/forms/control_table.h"
 #include <QDir>
 #include <QGuiApplication>
 #include <QTest>

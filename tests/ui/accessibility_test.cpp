@@ -1,5 +1,5 @@
 #include "tests/ui/support/listener.h"
-#include "toolkit/message_box.h"
+#include "ui/toolkit/message_box.h"
 
 #include <gtest/gtest.h>
 #include <QApplication>

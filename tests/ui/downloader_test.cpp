@@ -1,4 +1,4 @@
-#include "shell/downloader.h"
+#include "ui/update/downloader.h"
 
 #include <gtest/gtest.h>
 

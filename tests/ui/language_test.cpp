@@ -1,4 +1,4 @@
-#include "shell/language.h"
+#include "ui/machine/language.h"
 
 #include <QCoreApplication>
 #include <QDir>

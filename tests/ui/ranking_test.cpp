@@ -1,7 +1,7 @@
 #include "core/records/ranking_table.h"
-#include "records/ranking_check.h"
 #include "tests/core/test_files.h"
 #include "tests/ui/support/dialog_game.h"
+#include "ui/records/ranking_check.h"
 
 #include <QKeyEvent>
 

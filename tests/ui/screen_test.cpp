@@ -1,10 +1,10 @@
 #include "tests/ui/support/test_game.h"
 
-#include "forms/control_table.h"
-#include "forms/splash.h"
-#include "shell/center_form.h"
-#include "shell/dpi_adjuster.h"
-#include "shell/window_shape.h"
+#include "ui/forms/control_table.h"
+#include "ui/forms/splash.h"
+#include "ui/window/center_form.h"
+#include "ui/window/dpi_adjuster.h"
+#include "ui/window/window_shape.h"
 
 #include <gtest/gtest.h>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "shell/update_window.h"
+#include "ui/update/update_window.h"
 
 #include <gtest/gtest.h>
 

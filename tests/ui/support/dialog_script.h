@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/form.h"
+#include "ui/toolkit/form.h"
 
 #include <deque>
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "toolkit/form.h"
+#include "ui/toolkit/form.h"
 
 /// The player's hand: events as the window system sends them, so that what lies on top gets the
 /// click, a form behind a modal one gets none, and keys go where the focus is.

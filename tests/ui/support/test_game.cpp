@@ -1,8 +1,8 @@
 #include "tests/ui/support/test_game.h"
 
-#include "app/splash.h"
 #include "core/files/codepage.h"
 #include "core/records/ranking_table.h"
+#include "ui/main_form/splash.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/form1.h"
-#include "shell/registry_start.h"
+#include "ui/machine/registry_start.h"
+#include "ui/main_form/form1.h"
 
 #include <deque>
 #include <memory>

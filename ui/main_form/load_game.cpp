@@ -1,0 +1,105 @@
+#include "ui/main_form/load_game.h"
+
+#include "core/machine/shared_routines.h"
+
+#include <QScopedValueRollback>
+
+namespace {
+
+/// Price of a load, in seconds.
+constexpr double kPrecoCarga = 120;
+
+} // namespace
+
+void CargaJogo::CarregaJogo(int n)
+{
+    if (d.estado.Montando) {
+        return;
+    }
+    const auto lido = LeSlot(Caminho(d.valores.PastaDados, kArquivoJogos), n);
+    const auto *salvo = std::get_if<JogoSalvo>(&lido);
+    if (salvo == nullptr) {
+        d.ambiente.mensagem(
+            {QStringLiteral("O jogo salvo neste local está danificado e não pode ser aberto.")});
+        return;
+    }
+    const int cheio = Abre(*salvo);
+    if (cheio != 0 && !d.Item(cheio).ItemResolvido) {
+        m_salas.verificacao.VerificaPalavra(cheio);
+    }
+}
+
+/// The load itself. Gives the selected item if it has no free cell: its check, which can end the
+/// game, has to wait until the game has begun.
+int CargaJogo::Abre(const JogoSalvo &salvo)
+{
+    const QScopedValueRollback montando(d.estado.Montando, true);
+    // What is typed meanwhile, and what is written into the cells, goes nowhere.
+    m_salas.entrada.SetAtiva(false);
+    MostraEspera();
+    DeitaItens(salvo);
+    m_salas.entrada.SetAtiva(true);
+    m_salas.vista.CentraGrade();
+    const int cheio = SelecionaPrimeiroAberto();
+    d.ambiente.mensagem({QStringLiteral("Serão acrescentados 2 minutos ao seu tempo")});
+    d.valores.HoraInicio = d.ambiente.Agora() - (salvo.tempo + kPrecoCarga);
+    ComecaPartida();
+    return cheio;
+}
+
+/// Panel and shield up, board empty.
+void CargaJogo::MostraEspera()
+{
+    d.c.Image4.SetVisible(true);
+    d.c.Timer1.SetLigado(false);
+    d.c.Label2.SetCaption(FormataTempo(0));
+    d.c.Label4.SetVisible(false);
+    d.c.Picespere.SetVisible(true);
+    m_salas.vista.MostraProgresso(0);
+    // With the panel up nothing can give up the game that is about to go.
+    d.valores.Desistiu = false;
+    d.ambiente.deixaEventos();
+    d.c.Pic_q2.SetLeft(0);
+    d.c.Pic_q2.SetTop(0);
+    m_salas.vista.wzera();
+    d.estado.Focus = 0;
+    d.tabuleiro.QtdItens = 0;
+    d.ambiente.deixaEventos();
+}
+
+void CargaJogo::DeitaItens(const JogoSalvo &salvo)
+{
+    for (int i = 1; i <= kItens; ++i) {
+        const RegistroItem &item = salvo.itens[static_cast<size_t>(i)];
+        d.Item(i).ItemResolvido = item.ItemResolvido;
+        Carrega_Palavra(d.tabuleiro, m_salas.vista,
+                        {item.Palavra, item.Ponto, item.Sentido, item.Dica, item.ItemResolvido});
+        if (item.ItemResolvido) {
+            m_salas.verificacao.SomeNoTab(i);
+        }
+        d.ambiente.deixaEventos();
+    }
+}
+
+/// Gives the item if it has no free cell, else 0. Where no item is open, nothing is selected.
+int CargaJogo::SelecionaPrimeiroAberto()
+{
+    int cheio = 0;
+    const QScopedValueRollback adiada(m_salas.selecao.SemCelulaLivre,
+                                      std::function<void(int)>([&cheio](int i) { cheio = i; }));
+    if (const int aberto = PrimeiroAberto(d.tabuleiro); aberto != 0) {
+        m_salas.selecao.Lbt_Click(aberto);
+    }
+    return cheio;
+}
+
+void CargaJogo::ComecaPartida()
+{
+    d.estado.TudoResolvido = false;
+    d.c.Label4.SetVisible(true);
+    m_salas.verificacao.MostraDesistir();
+    d.c.Timer1.SetLigado(true);
+    d.c.Picespere.SetVisible(false);
+    d.ambiente.deixaEventos();
+    d.c.Image4.SetVisible(false);
+}

@@ -1,0 +1,82 @@
+#include "ui/toolkit/picture.h"
+
+#include "assets/pictures.h"
+
+#include <algorithm>
+
+namespace toolkit {
+
+namespace {
+
+/// Paints over the key pixels at both ends of a row, from the outermost other pixel on.
+void CobreLinha(QRgb *linha, int largura, QRgb cor)
+{
+    const auto chave = [cor](QRgb pixel) { return (pixel & RGB_MASK) == (cor & RGB_MASK); };
+    QRgb *fim = linha + largura;
+    QRgb *primeiro = std::find_if_not(linha, fim, chave);
+    if (primeiro == fim) {
+        return;
+    }
+    std::fill(linha, primeiro, *primeiro);
+    for (QRgb *pixel = primeiro + 1; pixel != fim; ++pixel) {
+        *pixel = chave(*pixel) ? pixel[-1] : *pixel;
+    }
+}
+
+QImage Cobre(QImage imagem, QRgb cor)
+{
+    imagem.convertTo(QImage::Format_RGB32);
+    for (int y = 0; y < imagem.height(); ++y) {
+        CobreLinha(reinterpret_cast<QRgb *>(imagem.scanLine(y)), imagem.width(), cor);
+    }
+    return imagem;
+}
+
+QImage Carrega(const QString &nome, size_t vezes)
+{
+    constexpr std::array sufixos = {u"", u"@2x", u"@3x"};
+    const QImage imagem(CaminhoFigura(nome + QString::fromUtf16(sufixos[vezes])));
+    Q_ASSERT_X(!imagem.isNull(), "Picture", qPrintable(nome));
+    return imagem;
+}
+
+} // namespace
+
+Picture::Picture(const QString &nome)
+    : m_conteudo(std::make_shared<Conteudo>(Conteudo{nome, Carrega(nome, 0), {}, {}}))
+{
+}
+
+Picture Picture::Coberta(QRgb cor) const
+{
+    Picture coberta;
+    coberta.m_conteudo = std::make_shared<Conteudo>(
+        Conteudo{m_conteudo->nome, Cobre(m_conteudo->pixels, cor), cor, {}});
+    return coberta;
+}
+
+const QPixmap &Picture::ParaEscala(qreal escala) const
+{
+    constexpr qreal kFolga = 0.01;
+    auto &desenhos = m_conteudo->desenhos;
+    size_t k = 0;
+    while (k + 1 < desenhos.size() && static_cast<qreal>(k) + 1 + kFolga < escala) {
+        ++k;
+    }
+    if (desenhos[k].isNull()) {
+        QImage imagem = k == 0 ? m_conteudo->pixels : Carrega(m_conteudo->nome, k);
+        if (k > 0 && m_conteudo->coberta) {
+            imagem = Cobre(imagem, *m_conteudo->coberta);
+        }
+        desenhos[k] = QPixmap::fromImage(imagem);
+        desenhos[k].setDevicePixelRatio(static_cast<qreal>(k) + 1);
+    }
+    return desenhos[k];
+}
+
+QCursor Ponteiro(const Picture &figura, QPoint ponta)
+{
+    return QCursor(figura.ParaEscala(1), ponta.x(), ponta.y());
+}
+
+} // namespace toolkit

@@ -1,0 +1,140 @@
+#include "ui/toolkit/text_box.h"
+
+#include "ui/toolkit/thin_frame.h"
+
+#include <algorithm>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+namespace toolkit {
+
+/// The widget: a line edit with a flat one-pixel frame.
+class TextBox::Campo final : public QLineEdit, public WidgetDeControle
+{
+public:
+    Campo(QWidget *pai, TextBox &dono) : QLineEdit(pai), WidgetDeControle(dono) { setFrame(false); }
+
+    bool celula = false;
+
+    [[nodiscard]] QLineEdit *Linha() override { return this; }
+    [[nodiscard]] bool AceitaEscrita() const override { return !celula || hasFocus(); }
+
+protected:
+    void paintEvent(QPaintEvent *evento) override
+    {
+        QLineEdit::paintEvent(evento);
+        QPainter pintor(this);
+        PintaMoldura(pintor, size(), kPreto);
+    }
+
+    void contextMenuEvent(QContextMenuEvent *evento) override
+    {
+        // A press on a cell has just moved the cursor: the menu must act where the cursor is.
+        auto *foco = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+        if (!celula || foco == this) {
+            QLineEdit::contextMenuEvent(evento);
+        } else if (foco != nullptr) {
+            QContextMenuEvent copia(evento->reason(), foco->rect().center(), evento->globalPos());
+            QApplication::sendEvent(foco, &copia);
+        }
+    }
+
+    void dragEnterEvent(QDragEnterEvent *evento) override
+    {
+        if (!celula || hasFocus()) {
+            QLineEdit::dragEnterEvent(evento);
+        } else {
+            evento->ignore();
+        }
+    }
+};
+
+TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(origem.pai, *this))
+{
+    UsaWidget(m_campo);
+    SetBackColor(kBranco);
+    QObject::connect(m_campo, &QLineEdit::textChanged, this, [this] { TextoMudou(); });
+}
+
+void TextBox::TextoMudou()
+{
+    AvisaMudanca();
+    QString texto = m_campo->text();
+    const auto controle = [](QChar letra) { return letra.category() == QChar::Other_Control; };
+    if (std::any_of(texto.cbegin(), texto.cend(), controle)) {
+        std::replace_if(texto.begin(), texto.end(), controle, u' ');
+        // Comes back here with the text that is left.
+        m_campo->setText(texto);
+    } else if (Change) {
+        Change();
+    }
+}
+
+QString TextBox::Text() const
+{
+    return m_campo->text();
+}
+
+void TextBox::SetText(const QString &texto)
+{
+    // Setting the text that stands there would still forget the undo history and move the cursor.
+    if (texto != m_campo->text()) {
+        m_campo->setText(texto);
+    }
+}
+
+void TextBox::SetMaxLength(int maximo)
+{
+    if (maximo > 0) {
+        m_campo->setMaxLength(maximo);
+    }
+}
+
+void TextBox::SetAlignment(Alinhamento alinhamento)
+{
+    m_campo->setAlignment(alinhamento == Alinhamento::Centro    ? Qt::AlignCenter
+                          : alinhamento == Alinhamento::Direita ? Qt::AlignRight | Qt::AlignVCenter
+                                                                : Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void TextBox::SelecionaTudo()
+{
+    m_campo->selectAll();
+}
+
+void TextBox::SetCelula()
+{
+    m_celula = true;
+    m_campo->celula = true;
+    m_campo->setDragEnabled(false);
+}
+
+void TextBox::CopiaDe(const TextBox &molde)
+{
+    m_campo->setText(molde.Text());
+    m_campo->setAlignment(molde.m_campo->alignment());
+    m_campo->setMaxLength(molde.m_campo->maxLength());
+    if (molde.m_celula) {
+        SetCelula();
+    }
+    CopiaBase(molde);
+}
+
+void TextBox::MostraAspecto()
+{
+    QPalette cores = m_campo->palette();
+    cores.setColor(QPalette::Base, BackColor());
+    cores.setColor(QPalette::Text, ForeColor());
+    if (cores != m_campo->palette()) {
+        m_campo->setPalette(cores);
+    }
+    const QFont fonte = FonteQt();
+    if (fonte != m_campo->font()) {
+        m_campo->setFont(fonte);
+    }
+    Control::MostraAspecto();
+}
+
+} // namespace toolkit

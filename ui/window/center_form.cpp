@@ -1,0 +1,20 @@
+#include "ui/window/center_form.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
+
+void CentralizaForm(toolkit::Form &form)
+{
+    const QScreen *tela = QGuiApplication::screenAt(QCursor::pos());
+    if (tela == nullptr) {
+        tela = QGuiApplication::primaryScreen();
+    }
+    const QRect area = tela->geometry();
+    const float porPixel = toolkit::TwipsPorPixel(form.Dpi());
+    const auto twips = [porPixel](int pixels) { return static_cast<float>(pixels) * porPixel; };
+    const float top = twips(area.height()) / 2 - form.Height() / 2;
+    const float left = twips(area.width()) / 2 - form.Width() / 2;
+    form.SetTop(twips(area.top()) + qMax(0.0F, top));
+    form.SetLeft(twips(area.left()) + qMax(0.0F, left));
+}
