@@ -189,11 +189,8 @@ Retrato Regras::Mostra() const
         l.Poe("interval", ms);
     }
     l.Poe("bubble", Junta({Sim(balao), Sim(seta), Sim(seta2), textoBalao}));
-    const double left = 75 + 15 * (folhaLeft + 12 + 18 * ((casaBalao - 1) % 26) + 19);
-    const double baixo = 480 + 15 * (folhaTop + 13 + 18 * ((casaBalao - 1) / 26));
     const QString lugar =
-        casaBalao == 0 ? QStringLiteral("6390|9795|675|210")
-                       : QStringLiteral("%1|%2|270|90").arg(std::lround(left)).arg(std::lround(baixo));
+        QStringLiteral("%1|%2|%3").arg(balaoLeft).arg(balaoBaixo).arg(extraBalao);
     l.Poe("bubble's place", balao ? lugar : QString());
     l.Poe("marker", Sim(marcador) + u' ' + QString::number(marcadorLeft));
     l.Poe("sheet", QStringLiteral("%1 %2").arg(folhaLeft).arg(folhaTop));

@@ -62,8 +62,8 @@ void Regras::NovoJogo()
     dica.clear();
     escudo = painel = true;
     socorro = false;
-    aoCederNoPainel();
     Zera();
+    aoCederNoPainel();
     const Montado jogo = montado();
     itens = jogo.itens;
     for (int n = 1; n <= kPalavras; ++n) {
@@ -324,10 +324,12 @@ void Regras::SomeNoTab(int n)
 {
     const bool antes = n == 1 || I(n - 1).resolvido;
     const bool depois = n == kPalavras || I(n + 1).resolvido;
+    // A second judgement of the same word finds the mark there and widens it.
+    const int largura = I(n).marca ? I(n).marcaWidth : 300;
     I(n).marca = true;
     I(n).botao = false;
     I(n).marcaLeft = 195 + 315 * (n - 1) - 30 - (antes ? 1 : 0);
-    I(n).marcaWidth = 300 + (antes ? 1 : 0) + (depois ? 1 : 0);
+    I(n).marcaWidth = largura + (antes ? 1 : 0) + (depois ? 1 : 0);
 }
 
 // ---- The mouse and the bubble
@@ -427,7 +429,9 @@ void Regras::Paira(int i)
     }
     balao = false;
     textoBalao = h;
-    casaBalao = i;
+    balaoLeft = static_cast<int>(std::lround(75 + 15 * (folhaLeft + 12 + 18 * ((i - 1) % 26) + 19)));
+    balaoBaixo = static_cast<int>(std::lround(480 + 15 * (folhaTop + 13 + 18 * ((i - 1) / 26))));
+    extraBalao = QStringLiteral("270|90");
     timers[2] = false;
     timers[3] = true;
 }
@@ -620,9 +624,9 @@ void Regras::Carrega(int slot)
     escudo = painel = true;
     timers[1] = false;
     relogio = QStringLiteral("00:00:00");
-    aoCederNoPainel();
     Zera();
     Focus = 0;
+    aoCederNoPainel();
     for (int n = 1; n <= kPalavras; ++n) {
         I(n).palavra = le("Palavra", n);
         I(n).dica = le("Dica", n);

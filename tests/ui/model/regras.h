@@ -117,7 +117,9 @@ public:
     /// The bubble shows from the start on, below the form.
     bool balao = true, seta = false, seta2 = false;
     QString textoBalao = QStringLiteral("Label3");
-    int casaBalao = 0;
+    /// Left and lower edge, and how much larger than its text it is, in twips.
+    int balaoLeft = 6390, balaoBaixo = 9795;
+    QString extraBalao = QStringLiteral("675|210");
     bool marcador = false;
     int marcadorLeft = 0;
     double folhaLeft = 0, folhaTop = 0;
