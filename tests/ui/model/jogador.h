@@ -11,8 +11,7 @@ namespace modelo {
 /// makes sense when some of them are left out.
 struct Ato
 {
-    int tipo = 0;
-    int a = 0, b = 0, c = 0;
+    int tipo = 0, a = 0, b = 0, c = 0;
 };
 
 /// What the player does with the real widgets: one event, or one click.
@@ -20,35 +19,30 @@ struct Gesto
 {
     enum class Tipo { Move, Clica, Digita, Compoe, Cola, Tecla, Tique, Espera };
 
-    Gesto(Tipo um, Alvo em, QString oQue = {}, int qual = 0, double quanto = 0)
-        : tipo(um), alvo(std::move(em)), texto(std::move(oQue)), n(qual), segundos(quanto)
-    {
-    }
-
-    Tipo tipo;
-    Alvo alvo;
-    QString texto;
+    Tipo tipo = Tipo::Move;
+    Alvo alvo = {};
+    QString texto = {};
     /// Timer, key, or kind of click: 0 left, 1 middle, 2 double.
-    int n;
-    double segundos;
-    Respostas respostas;
+    int n = 0;
+    double segundos = 0;
+    Respostas respostas = {};
     /// What arrives while the gesture lets events run, and the yield under the panel at which it
-    /// does (0: the one in which a right word is judged).
-    std::vector<Gesto> dentro;
+    /// does (0: that in which a right word is judged).
+    std::vector<Gesto> dentro = {};
     int noPainel = 0;
     /// Where the mouse got to, and whether it was elsewhere before.
-    Alvo real;
+    Alvo real = {};
     bool movido = false;
 };
 
-/// What the program shows, read off its widgets, its state and its files.
+/// What the program shows, read off its widgets and its state.
 Retrato Le(const JogoDeTeste &jogo);
 /// A stored file by a reader of the test's own.
-Arquivo LeArquivo(const QString &caminho);
-/// Name by name what differs, at most a few lines; "" where nothing does.
+Arquivo LeArquivo(const QByteArray &bytes);
+/// Name by name what differs, "" where nothing does.
 QString Diferencas(const QStringList &programa, const QStringList &modelo);
 QString Diferencas(const Arquivo &programa, const Arquivo &modelo);
-/// The control of a form at a place, or that of a widget.
+/// The control of a form that a widget belongs to.
 Alvo ControleEm(const toolkit::Form &form, const QWidget *widget);
 
 /// A game of the program beside one of the model: each gesture is made in both, and everything is
@@ -62,7 +56,7 @@ public:
     /// Starts the first game, or makes an act. Gives what differs then, "" if nothing does.
     QString Comeca();
     QString Faz(const Ato &ato);
-    /// Games that have been won or given up, or left for another.
+    /// Boards that have come up.
     [[nodiscard]] int Partidas() const { return m_partidas; }
 
 protected:
@@ -72,29 +66,29 @@ private:
     class Sorte;
 
     // An act as gestures.
-    void Escreve(const QString &letras, int como, int interrompe);
-    void ResolveItem(int n, int como, int interrompe);
-    void Pairar(int a, int b);
-    void Interrompe(Gesto &gesto, int com);
-    void ClicaEm(const Alvo &alvo, int como = 0, const Respostas &r = {}, int com = 0);
-    void Menu(const Ato &ato);
+    void Escreve(const QString &letras, int como, int interrompe = 0);
+    void ResolveItem(int n, int como, int interrompe = 0);
+    void Clica(const Alvo &alvo, int como = 0, const Respostas &r = {}, int com = 0, int yield = 0);
     void Danifica(int slot, int como);
     void PreparaRanking(int como);
+    void Grava(const QString &nome, const Arquivo &arquivo) const;
+    [[nodiscard]] std::vector<Gesto> Interrupcao(int com) const;
     [[nodiscard]] Alvo CasaAoAcaso(int a, bool cruzamento) const;
     [[nodiscard]] QString Falta(int n, int como) const;
 
-    // A gesture in the program, then in the model.
+    // A gesture in the program, then in the model, then the comparison.
     void Executa(Gesto gesto);
-    void NoPrograma(Gesto &gesto);
-    void NoModelo(const Gesto &gesto);
     void Aponta(Gesto &gesto);
-    void Compara(const QString &gesto);
-    void Encena(toolkit::Form &form);
+    void NoPrograma(Gesto &gesto);
     void Cedeu();
+    void NoModelo(const Gesto &gesto);
     void CedeuNoModelo(bool noPainel);
-    void Anota(const QString &linha);
-    [[nodiscard]] Montado Puzzle() const;
+    int Puzzle(std::array<Item, kPalavras + 1> &itens) const;
+    void Compara(const QString &gesto);
     Resposta Responde(const PedidoMensagem &pedido);
+    void Encena(toolkit::Form &form);
+    void NoDialogo(toolkit::Form &form, const Respostas &r);
+    void ClicaNoDialogo(const toolkit::Control &controle);
 
     JogoDeTeste m_jogo;
     Regras m_regras;
@@ -105,6 +99,7 @@ private:
     QStringList m_log;
     QList<Retrato> m_momentos;
     QString m_erro;
+    /// Where the mouse is on the screen.
     QPoint m_mouse;
     std::uint64_t m_sementeDaSorte;
     int m_cedeuNoPainel = 0, m_partidaDoTabuleiro = 0, m_partidas = 0;
@@ -112,7 +107,6 @@ private:
     std::array<Arquivo, 3> m_lidos;
 };
 
-inline constexpr int kAtosPorSessao = 150;
 /// The acts of a session, by its seed.
 std::vector<Ato> Sorteados(std::uint64_t semente);
 

@@ -7,7 +7,7 @@ namespace modelo {
 
 namespace {
 
-constexpr int kSessoes = 12;
+constexpr int kSessoes = 5;
 constexpr int kTempoDeReduzirMs = 60'000;
 
 struct Sessao
@@ -17,20 +17,15 @@ struct Sessao
 };
 
 /// Plays a session; gives what went wrong, and cuts the session behind the act that did it.
-QString Joga(Sessao &sessao, int *partidas = nullptr)
+QString Joga(Sessao &sessao, int &partidas)
 {
     Jogador jogador(sessao.semente);
     QString erro = jogador.Comeca();
     size_t k = 0;
-    while (erro.isEmpty() && k < sessao.atos.size()) {
+    while (erro.isEmpty() && k < sessao.atos.size())
         erro = jogador.Faz(sessao.atos[k++]);
-    }
-    if (!erro.isEmpty()) {
-        sessao.atos.resize(k);
-    }
-    if (partidas != nullptr) {
-        *partidas += jogador.Partidas();
-    }
+    if (!erro.isEmpty()) sessao.atos.resize(k);
+    partidas += jogador.Partidas();
     return erro;
 }
 
@@ -39,20 +34,17 @@ void Reduz(Sessao &sessao, QString &erro)
 {
     QElapsedTimer relogio;
     relogio.start();
-    for (size_t pedaco = sessao.atos.size() / 2; pedaco > 0; pedaco /= 2) {
-        for (size_t k = 0; k < sessao.atos.size();) {
+    for (auto pedaco = std::ssize(sessao.atos) / 2; pedaco > 0; pedaco /= 2) {
+        for (auto k = std::ssize(sessao.atos) - pedaco; k >= 0; k -= pedaco) {
+            int partidas = 0;
             Sessao menor = sessao;
-            const auto aqui = menor.atos.begin() + static_cast<std::ptrdiff_t>(k);
-            menor.atos.erase(
-                aqui, aqui + static_cast<std::ptrdiff_t>(std::min(pedaco, menor.atos.size() - k)));
-            if (relogio.hasExpired(kTempoDeReduzirMs)) {
-                return;
-            }
-            if (const QString ainda = Joga(menor); !ainda.isEmpty()) {
+            menor.atos.erase(menor.atos.begin() + k, menor.atos.begin() + k + pedaco);
+            const QString ainda = Joga(menor, partidas);
+            if (relogio.hasExpired(kTempoDeReduzirMs)) return;
+            if (!ainda.isEmpty()) {
                 sessao = menor;
                 erro = ainda;
-            } else {
-                k += pedaco;
+                k = std::min(k, std::ssize(sessao.atos));
             }
         }
     }
@@ -61,32 +53,27 @@ void Reduz(Sessao &sessao, QString &erro)
 std::string Texto(const Sessao &sessao)
 {
     std::string texto = std::to_string(sessao.semente);
-    for (const Ato &ato : sessao.atos) {
-        for (const int numero : {ato.tipo, ato.a, ato.b, ato.c}) {
+    for (const Ato &ato : sessao.atos)
+        for (const int numero : {ato.tipo, ato.a, ato.b, ato.c})
             texto += ' ' + std::to_string(numero);
-        }
-    }
     return texto;
 }
 
 Sessao Lida(const QByteArray &texto)
 {
-    const QList<QByteArray> numeros = texto.split(' ');
-    Sessao sessao{numeros[0].toULongLong(), {}};
-    for (int k = 1; k + 3 < numeros.size(); k += 4) {
-        sessao.atos.push_back({numeros[k].toInt(), numeros[k + 1].toInt(), numeros[k + 2].toInt(),
-                               numeros[k + 3].toInt()});
-    }
+    const QList<QByteArray> n = texto.split(' ');
+    Sessao sessao{n[0].toULongLong(), {}};
+    for (int k = 1; k + 3 < n.size(); k += 4)
+        sessao.atos.push_back({n[k].toInt(), n[k + 1].toInt(), n[k + 2].toInt(), n[k + 3].toInt()});
     return sessao;
 }
 
-void JogaEConta(Sessao sessao, int *partidas = nullptr)
+void JogaEConta(Sessao sessao, int &partidas)
 {
     QString erro = Joga(sessao, partidas);
-    if (!erro.isEmpty()) {
-        Reduz(sessao, erro);
-        FAIL() << "QUADRELO_ATOS=\"" << Texto(sessao) << "\"\n" << qPrintable(erro);
-    }
+    if (erro.isEmpty()) return;
+    Reduz(sessao, erro);
+    FAIL() << "QUADRELO_ATOS=\"" << Texto(sessao) << "\"\n" << qPrintable(erro);
 }
 
 } // namespace
@@ -95,24 +82,19 @@ void JogaEConta(Sessao sessao, int *partidas = nullptr)
 /// QUADRELO_ATOS replays a session as a failure has printed it.
 TEST(SegundoJogador, SeesWhatTheRulesSayAfterEveryAct)
 {
-    if (qEnvironmentVariableIsSet("QUADRELO_ATOS")) {
-        JogaEConta(Lida(qgetenv("QUADRELO_ATOS")));
-        return;
-    }
+    int partidas = 0;
+    if (qEnvironmentVariableIsSet("QUADRELO_ATOS"))
+        return JogaEConta(Lida(qgetenv("QUADRELO_ATOS")), partidas);
     const int quantas = qEnvironmentVariableIntValue("QUADRELO_PARTIDAS");
     const int primeira = std::max(1, qEnvironmentVariableIntValue("QUADRELO_SEMENTE"));
-    QElapsedTimer relogio;
-    relogio.start();
-    int partidas = 0;
-    for (int s = primeira;
-         !HasFatalFailure() && (quantas > 0 ? partidas < quantas : s < primeira + kSessoes); ++s) {
-        if (quantas > 0) {
-            std::fprintf(stderr, "session %d, %d games\r", s, partidas);
-        }
-        const auto semente = static_cast<std::uint64_t>(s);
-        JogaEConta({semente, Sorteados(semente)}, &partidas);
+    for (int s = primeira; !HasFailure(); ++s) {
+        if (quantas > 0 ? partidas >= quantas : s == primeira + kSessoes) break;
+        if (quantas > 0) std::fprintf(stderr, "session %d, %d games\n", s, partidas);
+        JogaEConta({static_cast<std::uint64_t>(s), Sorteados(static_cast<std::uint64_t>(s))},
+                   partidas);
     }
-    std::printf("%d games in %lld ms\n", partidas, static_cast<long long>(relogio.elapsed()));
+    RecordProperty("games", partidas);
+    std::printf("%d games\n", partidas);
 }
 
 } // namespace modelo

@@ -9,20 +9,21 @@
 /// A second player, who knows the rules: a game as the player meets it, written down once more as
 /// plainly as it can be, without a window and without a line of the program's.
 ///
-/// Each method is something that happens to the game. What the player would then see and hear is
-/// in the members, in the log and, for the moments when the game waits for an answer, in the
-/// snapshots.
+/// The methods are what happens to the game. What the player would then see and hear is in the
+/// members, in the log and, for the moments when the game waits for an answer, in the snapshots.
 namespace modelo {
 
 inline constexpr int kCasas = 572;
 inline constexpr int kPalavras = 26;
+/// Seconds that a message box and a dialog stay open in these games.
+inline constexpr double kSegundosDeMensagem = 7.25;
+inline constexpr double kSegundosDeDialogo = 3.5;
 
 /// A control of the main form by its name; `n` is its index, -1 where it has none.
 struct Alvo
 {
     QString nome = {};
     int n = -1;
-    bool operator==(const Alvo &) const = default;
 };
 
 /// What the player does in the dialogs that one gesture opens.
@@ -32,11 +33,12 @@ struct Respostas
     bool aceita = true;
     /// The label clicked in a list of saved games: 1 to 10, 11 "Cancelar", 12 the close area.
     int slot = 11;
-    QString nome;
+    QString nome = {};
     /// Leaves the name that the dialog offers, or closes it without saving.
     bool mantemNome = false, desisteDoNome = false;
 };
 
+/// The ground of a cell.
 enum class Chao { Branco, Amarelo, Azul };
 
 struct Casa
@@ -50,58 +52,57 @@ struct Casa
 
 struct Item
 {
-    QString palavra;
+    QString palavra, dica;
     QChar sentido;
     int ponto = 0;
-    QString dica;
     bool resolvido = false;
     /// The button on the strip, and the mark in its place with its left edge and width in twips.
     bool botao = true, aceso = false, marca = false;
     int marcaLeft = 0, marcaWidth = 0;
 };
 
-/// A puzzle that the program has built, and how many builds failed before it.
-struct Montado
-{
-    std::array<Item, kPalavras + 1> itens;
-    int falhas = 0;
-};
-
 /// A stored file: "section/key" and what stands behind the equals sign.
 using Arquivo = QMap<QString, QString>;
-/// Everything that can be read off a game, one line "name=value" for each thing.
+/// Everything that can be read off a game, always in the same order.
 using Retrato = QStringList;
+
+/// Capitals, and seconds as the game shows them.
+QString Capitais(const QString &texto);
+QString Tempo(int segundos);
 
 class Regras
 {
 public:
-    /// The first activation of the form.
-    void Comeca() { NovoJogo(); }
-    /// The mouse moves onto a control.
+    void NovoJogo();
+    /// The mouse moves onto a control; it clicks on one, once or twice in a row.
     void Move(const Alvo &alvo);
-    /// A click on a control, or two in a row.
     void Clica(const Alvo &alvo, bool dupla);
     /// A text arrives in whatever has the focus, at once.
     void Digita(const QString &texto);
     /// A timer, 1 to 4, has run down.
-    void Tique(int timer);
+    void Tique(size_t timer);
 
-    /// Whether a click on `alvo` may reach `real`, as the controls lie upon each other.
+    /// Whether the mouse on `alvo` may meet `real`, as the controls lie upon each other.
     [[nodiscard]] bool Alcanca(const Alvo &alvo, const Alvo &real) const;
     [[nodiscard]] Retrato Mostra() const;
-    /// Cell of letter `k` (from 0) of item `n`, and all cells of an item.
-    [[nodiscard]] int CasaDe(int n, int k) const;
     [[nodiscard]] QList<int> CasasDe(int n) const;
     [[nodiscard]] int Resolvidos() const;
+    /// The lowest open item, 27 if there is none.
+    [[nodiscard]] int Aberto() const;
+    [[nodiscard]] Casa &C(int i) { return casas[static_cast<size_t>(i)]; }
+    [[nodiscard]] Item &I(int n) { return itens[static_cast<size_t>(n)]; }
+    [[nodiscard]] const Casa &C(int i) const { return casas[static_cast<size_t>(i)]; }
+    [[nodiscard]] const Item &I(int n) const { return itens[static_cast<size_t>(n)]; }
 
-    // What comes from outside.
+    // What comes from outside: the clock, the draws, the player's answers, what happens while a
+    // right word is judged and while a board is built or laid out, and the puzzle that the program
+    // has built, with the number of builds that failed before it.
     double agora = 0;
     std::deque<double> sorte;
     int sorteios = 0;
     Respostas respostas;
-    /// What happens while a right word is judged, and while a board is built or laid out.
     std::function<void()> aoCeder, aoCederNoPainel;
-    std::function<Montado()> montado;
+    std::function<int(std::array<Item, kPalavras + 1> &itens)> montado;
 
     // What the player meets.
     QStringList log;
@@ -110,17 +111,15 @@ public:
     std::array<Item, kPalavras + 1> itens;
     int item = 0, Focus = 0;
     bool NoClick = false, Desistiu = false, TudoResolvido = false, SomLigado = true;
-    QString avisoa, dica = QStringLiteral("..."), relogio = QStringLiteral("00:00:00");
+    QString avisoa, dica, relogio;
     double HoraInicio = 0;
-    bool painel = false, escudo = false, socorro = false, desistir = false;
+    bool painel = false, escudo = false, socorro = false, desistir = false, marcador = false;
     std::array<bool, 5> timers{};
-    /// The bubble shows from the start on, below the form.
+    /// The bubble shows from the start on, below the form: left and lower edge, and how much
+    /// larger than its text it is, in twips.
     bool balao = true, seta = false, seta2 = false;
-    QString textoBalao = QStringLiteral("Label3");
-    /// Left and lower edge, and how much larger than its text it is, in twips.
-    int balaoLeft = 6390, balaoBaixo = 9795;
-    QString extraBalao = QStringLiteral("675|210");
-    bool marcador = false;
+    QString textoBalao = QStringLiteral("Label3"), sobraBalao = QStringLiteral("675|210");
+    long balaoLeft = 6390, balaoBaixo = 9795;
     int marcadorLeft = 0;
     double folhaLeft = 0, folhaTop = 0;
     /// jf.dat, save.ini, Ranking.dat; slots of save.ini that cannot be opened.
@@ -128,15 +127,16 @@ public:
     QList<int> danificados;
 
 private:
-    void NovoJogo();
     void Zera();
     void Poe(int n, bool resolvido);
     void Centra();
     void Seleciona(int n);
+    void Limpa(int n);
     void ApertaCasa(int i);
     void Escreve(int i, const QString &texto);
     void Mudou(int i);
     void Verifica(int n);
+    void Certa(int n);
     void Termina();
     void SomeNoTab(int n);
     void Paira(int i);
@@ -145,36 +145,19 @@ private:
     void Reinicia();
     void Socorro();
     int ProcuraVazia(bool soCruzamentos);
+    int EscolheSlot(const QString &form, const QStringList &nomes);
     void Abre();
     void Carrega(int slot);
     void Salva();
     bool EntraNoRanking(int t);
     void MostraRanking();
-    void GravaUsadas();
-
-    [[nodiscard]] bool Sorteia(int p);
+    bool Sorteia(int p);
     void Som(const QString &nome);
-    bool Mensagem(const QString &botoes, const QString &texto);
+    bool Mensagem(const QString &texto, const QString &botoes = QStringLiteral("Ok "));
     void Dialogo(const QString &texto);
-    [[nodiscard]] QString NomeDoSlot(int n) const;
     [[nodiscard]] QStringList Slots(const QString &vazio) const;
-    [[nodiscard]] int Aberto() const;
-    [[nodiscard]] bool Visivel(int i) const
-    {
-        return i >= 1 && i <= kCasas && casas[static_cast<size_t>(i)].visivel;
-    }
-    [[nodiscard]] Casa &C(int i) { return casas[static_cast<size_t>(i)]; }
-    [[nodiscard]] Item &I(int n) { return itens[static_cast<size_t>(n)]; }
-    [[nodiscard]] const Item &I(int n) const { return itens[static_cast<size_t>(n)]; }
-
     bool m_alterna = false;
     int m_partida = 0;
 };
-
-/// Seconds as the game shows them.
-QString Tempo(int segundos);
-/// Seconds that a message box and a dialog stay open in these games.
-inline constexpr double kSegundosDeMensagem = 7.25;
-inline constexpr double kSegundosDeDialogo = 3.5;
 
 } // namespace modelo
