@@ -24,7 +24,7 @@ const QStringList kNomes = {u"item, Focus, focus of the keyboard"_s,
                             u"marker, sheet"_s};
 
 template <class T>
-QString Em(const T &valor)
+decltype(auto) Em(const T &valor)
 {
     if constexpr (std::is_same_v<T, QColor>)
         return QString::number(valor.rgb() & 0xFFFFFFU, 16);
@@ -33,13 +33,15 @@ QString Em(const T &valor)
     else if constexpr (std::is_arithmetic_v<T>)
         return QString::number(valor);
     else
-        return valor;
+        return static_cast<const T &>(valor);
 }
 
 template <class... T>
 QString Junta(const T &...partes)
 {
-    return (QStringList() << ... << Em(partes)).join(u'|');
+    QString linha;
+    ((linha += Em(partes), linha += u'|'), ...);
+    return linha;
 }
 
 QString CasaDoPrograma(const JogoDeTeste &jogo, int i)
