@@ -17,6 +17,8 @@ constexpr bool kDuplosNosBotoes = false;
 constexpr std::array kPesos = {10, 8, 8, 6, 4, 9, 6, 9, 4, 7, 4, 7, 9, 1, 3, 3, 2};
 constexpr std::array kTeclas = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Backspace, Qt::Key_Left,
                                 Qt::Key_Delete, Qt::Key_Return,  Qt::Key_Home,      Qt::Key_Escape};
+/// Entries of the menu; saving and loading come most.
+constexpr std::array kEntradas = {0, 1, 2, 2, 2, 3, 3, 3, 4, 5};
 constexpr std::array kEsperas = {0.25, 1.0, 59.75, 600.0, 3599.5, 20000.0, 86400.0};
 const QStringList kNomes =
     u"Ana,,  Zé e Ção ,Conceição da Silva,   ,Vazio,Salvar aqui,a & b"_s.split(u',');
@@ -140,7 +142,7 @@ QString Jogador::Faz(const Ato &ato)
 {
     const auto [tipo, a, b, c] = ato;
     const QString falta = m_regras.item == 0 ? QString() : Falta(m_regras.item, b);
-    const int slot = 1 + (b % 40 < 12 ? b % 40 : b % 3);
+    const int slot = 1 + (b % 40 < 12 ? b % 40 : b % 2);
     const Respostas r{.aceita = c % 5 != 0,
                       .slot = slot,
                       .nome = Um(kNomes, c),
@@ -190,8 +192,9 @@ QString Jogador::Faz(const Ato &ato)
         Clica({u"Label4"_s}, 0, r, a % 3 == 0 ? b : 0);
         break;
     case 12: {
-        const bool monta = a % 6 == 0 || a % 6 == 2;
-        Clica({u"Label3"_s, a % 6}, 0, r, monta ? c : 0, 3 + b / 3 % 60);
+        const int entrada = Um(kEntradas, a);
+        const bool monta = entrada == 0 || entrada == 2;
+        Clica({u"Label3"_s, entrada}, 0, r, monta ? c : 0, 3 + b / 3 % 60);
         break;
     }
     case 13:

@@ -37,6 +37,22 @@ QString Nome(const Gesto &gesto)
     return gesto.dentro.empty() ? nome : nome + u", meanwhile "_s + Nome(gesto.dentro[0]);
 }
 
+/// A bank in which every letter with an accent occurs.
+const QByteArray &Banco()
+{
+    static const QByteArray banco = [] {
+        QByteArray bytes = BancoInventado(1200);
+        const QByteArray com = QString(u"ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛÜÇ"_s).toLatin1();
+        for (int k = 0, vez = 0; k < bytes.size(); ++k) {
+            const auto qual = (vez * 7 + k) % com.size();
+            const bool troca = k % 76 < 15 && bytes[k] == "AEIOUAEIOUAOAEIOUUC"[qual];
+            if (troca && ++vez % 3 == 0) bytes[k] = com[qual];
+        }
+        return bytes;
+    }();
+    return banco;
+}
+
 QPoint MeioDe(const QWidget *widget)
 {
     return widget->mapToGlobal(widget->rect().center());
@@ -63,12 +79,7 @@ private:
 };
 
 Jogador::Jogador(std::uint64_t semente)
-    : m_jogo(semente,
-             [] {
-                 static const QByteArray banco = BancoInventado(1200);
-                 return banco;
-             }()),
-      m_sementeDaSorte(semente * 1'000'003)
+    : m_jogo(semente, Banco()), m_sementeDaSorte(semente * 1'000'003)
 {
     Ambiente &ambiente = m_jogo.d().ambiente;
     auto sorte = std::make_unique<Sorte>(semente);

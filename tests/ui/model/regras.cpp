@@ -131,7 +131,7 @@ int Regras::Aberto() const
 
 // ---- Selection
 
-void Regras::Seleciona(int n)
+void Regras::Seleciona(int n, bool confere)
 {
     if (NoClick) Som(u"select.wav"_s);
     NoClick = true;
@@ -151,7 +151,7 @@ void Regras::Seleciona(int n)
         C(i).chao = Chao::Amarelo;
         Focus = Focus == 0 ? i : Focus;
     }
-    if (Focus == 0) Verifica(n);
+    if (Focus == 0 && confere) Verifica(n);
 }
 
 /// Wipes the free cells of an item.

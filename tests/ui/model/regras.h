@@ -130,7 +130,7 @@ private:
     void Zera();
     void Poe(int n, bool resolvido);
     void Centra();
-    void Seleciona(int n);
+    void Seleciona(int n, bool confere = true);
     void Limpa(int n);
     void ApertaCasa(int i);
     void Escreve(int i, const QString &texto);

@@ -9,8 +9,7 @@ namespace modelo {
 void Regras::Menu(int k)
 {
     Som(u"click.wav"_s);
-    if (k == 0 && desistir) return Desiste();
-    if (k == 0 && !painel) return NovoJogo();
+    if (k == 0 && !painel) return desistir ? Desiste() : NovoJogo();
     if (k == 1 && TudoResolvido)
         Mensagem(u"O jogo atual já está resolvido.\rClique em 'Novo Jogo'"_s);
     else if (k == 1)
@@ -125,7 +124,7 @@ void Regras::Carrega(int slot)
     const auto le = [&](const QString &chave, int n) {
         return jogos.value(u"jogo%1/%2%3"_s.arg(slot).arg(chave).arg(n));
     };
-    Desistiu = timers[1] = false;
+    Desistiu = timers[1] = socorro = false;
     escudo = painel = true;
     relogio = Tempo(0);
     Zera();
@@ -141,14 +140,16 @@ void Regras::Carrega(int slot)
         if (I(n).resolvido) SomeNoTab(n);
     }
     Centra();
-    if (Aberto() <= kPalavras) Seleciona(Aberto());
-    socorro = true;
-    desistir = Resolvidos() >= 10;
+    const int aberto = Aberto();
+    if (aberto <= kPalavras) Seleciona(aberto, false);
     Mensagem(u"Serão acrescentados 2 minutos ao seu tempo"_s);
     QString tempo = jogos.value(u"jogo%1/Tempo"_s.arg(slot));
     HoraInicio = agora - (tempo.replace(u',', u'.').toDouble() + 120);
-    timers[1] = true;
+    timers[1] = socorro = true;
     painel = escudo = TudoResolvido = false;
+    desistir = Resolvidos() >= 10;
+    // An item without a free cell is judged when the game has begun.
+    if (aberto <= kPalavras && Focus == 0) Verifica(aberto);
 }
 
 void Regras::Salva()
