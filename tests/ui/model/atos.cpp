@@ -10,7 +10,7 @@ namespace {
 
 using Tipo = Gesto::Tipo;
 
-constexpr int kAtosPorSessao = 250;
+constexpr size_t kAtosPorSessao = 180;
 /// A double click on a button counts as one click still.
 constexpr bool kDuplosNosBotoes = false;
 /// How often each kind of act comes, in hundredths.
@@ -28,6 +28,16 @@ const QStringList kTextos =
 const QStringList kEstragos =
     u"Ponto3=x,Sentido5=L,Tempo=-1,Palavra26=,ItemResolvido9=?,"
     "Ponto1=572,Tempo=1e999,Tempo=90061.75,Nome=Vazio,Nome=  "_s.split(u',');
+
+constexpr Ato kGuarda{12, 5, 0, 8}, kAbre{12, 2, 0, 8}, kPrimeira{12, 0, 0, 8}, kSolta{3, 13, 1, 0};
+/// How sessions begin, in turn, so that what is rare comes to pass: games given up, solved by help
+/// or thrown away at once, and what is left of them.
+const std::array<std::vector<Ato>, 5> kInicios = {
+    {{kGuarda, kSolta, kPrimeira, {6, 3}, kAbre, {0, 2, 1}, {12, 1, 0, 8}, kGuarda},
+     {kSolta, {3, 10, 1}, {16, 3}, {0, 7, 1}, {11, 1, 1, 8}, kPrimeira},
+     {kSolta, kGuarda, {12, 2, 0, 28}, {7, 0, 2}, {7, 1, 7}, {7, 2, 3}, {7, 3, 7}, {7, 5, 7}},
+     {{10, 3}, {12, 0, 0, 7}, {10, 3}, {12, 0, 0, 15}, {17}, {9, 3}, kPrimeira, kPrimeira},
+     {{10, 4}, kGuarda, kSolta, {3, 12, 1}, kAbre, {0, 0, 1}, {9, 0}}}};
 
 template <class T>
 const auto &Um(const T &lista, int qual)
@@ -59,7 +69,7 @@ std::vector<Gesto> Jogador::Interrupcao(int com) const
          {.tipo = Tipo::Clica, .alvo = {u"Label3"_s, 0}},
          {.tipo = Tipo::Clica, .alvo = {u"Label3"_s, 1}},
          {.tipo = Tipo::Clica, .alvo = {u"Label4"_s}},
-         {.tipo = Tipo::Tique, .n = 1}}};
+         {.tipo = Tipo::Tique, .n = 1 + com / 8 % 2 * 3}}};
     return com % 8 == 0 ? std::vector<Gesto>() : std::vector<Gesto>{Um(todas, com)};
 }
 
@@ -138,6 +148,15 @@ void Jogador::PreparaRanking(int como)
     Grava(u"Ranking.dat"_s, m_regras.ranking);
 }
 
+/// A memory of used words that leaves the builder little: its next builds fail now and then.
+void Jogador::EncheMemoria()
+{
+    for (int k = 0; k < 422; ++k)
+        m_regras.usadas[u"Indice/Palavra%1"_s.arg(k + 1)] =
+            QString::fromLatin1(Banco().mid(76 * k, 15)).trimmed();
+    Grava(u"jf.dat"_s, m_regras.usadas);
+}
+
 QString Jogador::Faz(const Ato &ato)
 {
     const auto [tipo, a, b, c] = ato;
@@ -150,7 +169,7 @@ QString Jogador::Faz(const Ato &ato)
                       .desisteDoNome = c % 9 == 2};
     switch (tipo) {
     case 0:
-        Escreve(falta.left(1 + a % 3), b);
+        Escreve(a % 8 == 7 ? falta.left(falta.size() - 1) : falta.left(1 + a % 3), b);
         break;
     case 1: {
         constexpr std::array kComo = {Tipo::Cola, Tipo::Compoe, Tipo::Digita};
@@ -193,7 +212,8 @@ QString Jogador::Faz(const Ato &ato)
         break;
     case 12: {
         const int entrada = Um(kEntradas, a);
-        const bool monta = entrada == 0 || entrada == 2;
+        // Words that a timer writes away from a board half laid out are not foreseen.
+        const bool monta = entrada == 0 || (entrada == 2 && c % 8 != 7);
         Clica({u"Label3"_s, entrada}, 0, r, monta ? c : 0, 3 + b / 3 % 60);
         break;
     }
@@ -206,8 +226,11 @@ QString Jogador::Faz(const Ato &ato)
     case 15:
         Danifica(1 + a % 3, b);
         break;
-    default:
+    case 16:
         PreparaRanking(a);
+        break;
+    default:
+        EncheMemoria();
     }
     return m_erro;
 }
@@ -215,8 +238,9 @@ QString Jogador::Faz(const Ato &ato)
 std::vector<Ato> Sorteados(std::uint64_t semente)
 {
     AcasoMersenne acaso(semente);
-    std::vector<Ato> atos(kAtosPorSessao);
-    for (Ato &ato : atos) {
+    std::vector<Ato> atos = kInicios[semente % kInicios.size()];
+    while (atos.size() < kAtosPorSessao) {
+        Ato &ato = atos.emplace_back();
         int sorte = SorteiaNumero(acaso, 100);
         while (sorte > kPesos[static_cast<size_t>(ato.tipo)])
             sorte -= kPesos[static_cast<size_t>(ato.tipo++)];

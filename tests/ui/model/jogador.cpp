@@ -37,11 +37,17 @@ QString Nome(const Gesto &gesto)
     return gesto.dentro.empty() ? nome : nome + u", meanwhile "_s + Nome(gesto.dentro[0]);
 }
 
-/// A bank in which every letter with an accent occurs.
+QPoint MeioDe(const QWidget *widget)
+{
+    return widget->mapToGlobal(widget->rect().center());
+}
+
+} // namespace
+
 const QByteArray &Banco()
 {
     static const QByteArray banco = [] {
-        QByteArray bytes = BancoInventado(1200);
+        QByteArray bytes = BancoInventado(450);
         const QByteArray com = QString(u"ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛÜÇ"_s).toLatin1();
         for (int k = 0, vez = 0; k < bytes.size(); ++k) {
             const auto qual = (vez * 7 + k) % com.size();
@@ -52,13 +58,6 @@ const QByteArray &Banco()
     }();
     return banco;
 }
-
-QPoint MeioDe(const QWidget *widget)
-{
-    return widget->mapToGlobal(widget->rect().center());
-}
-
-} // namespace
 
 /// Chance as one gesture meets it: first what the test has laid out, behind it a stream of its own
 /// for the builder.

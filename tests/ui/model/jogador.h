@@ -71,6 +71,7 @@ private:
     void Clica(const Alvo &alvo, int como = 0, const Respostas &r = {}, int com = 0, int yield = 0);
     void Danifica(int slot, int como);
     void PreparaRanking(int como);
+    void EncheMemoria();
     void Grava(const QString &nome, const Arquivo &arquivo) const;
     [[nodiscard]] std::vector<Gesto> Interrupcao(int com) const;
     [[nodiscard]] Alvo CasaAoAcaso(int a, bool cruzamento) const;
@@ -107,6 +108,8 @@ private:
     std::array<Arquivo, 3> m_lidos;
 };
 
+/// A bank in which every letter with an accent occurs.
+const QByteArray &Banco();
 /// The acts of a session, by its seed.
 std::vector<Ato> Sorteados(std::uint64_t semente);
 
