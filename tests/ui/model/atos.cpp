@@ -86,8 +86,7 @@ Alvo Jogador::CasaAoAcaso(int a, bool cruzamento) const
 QString Jogador::Falta(int n, int como) const
 {
     QString letras;
-    const QList<int> casas = m_regras.CasasDe(n);
-    for (const int i : casas)
+    for (const int i : m_regras.CasasDe(n))
         if (m_regras.C(i).texto.isEmpty()) letras += m_regras.C(i).letra;
     if (como % 5 == 4) {
         letras = letras.normalized(QString::NormalizationForm_D);
@@ -130,7 +129,7 @@ void Jogador::Grava(const QString &nome, const Arquivo &arquivo) const
 void Jogador::Danifica(int slot, int como)
 {
     const QString secao = u"jogo%1/"_s.arg(slot);
-    if (!m_regras.jogos.contains(secao + u"Nome"_s)) return;
+    if (!m_regras.jogos.contains(secao + u"Nome"_s) || m_regras.danificados.contains(slot)) return;
     const QStringList estrago = Um(kEstragos, como).split(u'=');
     m_regras.jogos[secao + estrago[0]] = estrago[1];
     if (como % kEstragos.size() < 7) m_regras.danificados << slot;
@@ -167,71 +166,33 @@ QString Jogador::Faz(const Ato &ato)
                       .nome = Um(kNomes, c),
                       .mantemNome = c % 5 == 1,
                       .desisteDoNome = c % 9 == 2};
-    switch (tipo) {
-    case 0:
-        Escreve(a % 8 == 7 ? falta.left(falta.size() - 1) : falta.left(1 + a % 3), b);
-        break;
-    case 1: {
-        constexpr std::array kComo = {Tipo::Cola, Tipo::Compoe, Tipo::Digita};
+    constexpr std::array kComo = {Tipo::Cola, Tipo::Compoe, Tipo::Digita};
+    const int entrada = Um(kEntradas, a);
+    // What a timer writes of a board half laid out is not foreseen.
+    const bool monta = entrada == 0 || (entrada == 2 && c % 8 != 7);
+    if (tipo == 0) Escreve(falta.left(a % 8 == 7 ? falta.size() - 1 : 1 + a % 3), b);
+    if (tipo == 1)
         Executa({.tipo = Um(kComo, b), .texto = Um(kTextos, a).left(b % 3 == 2 ? 1 : -1)});
-        break;
-    }
-    case 2:
-        ResolveItem(1 + a % kPalavras, b, c);
-        break;
-    case 3:
-        for (int k = a % 14; k >= 0 && m_regras.Aberto() <= kPalavras; --k)
-            ResolveItem(m_regras.Aberto(), b);
-        break;
-    case 4:
-        Escreve(falta.isEmpty() ? falta : falta.chopped(1) + u'Ô', b);
-        break;
-    case 5:
-        Clica(CasaAoAcaso(a, c % 2 == 1), b % 3);
-        break;
-    case 6:
-        Clica({u"Lbt"_s, 1 + a % kPalavras}, kDuplosNosBotoes && b % 4 == 0 ? 2 : 0, r);
-        break;
-    case 7:
-        Executa({.alvo = CasaAoAcaso(a, b % 2 == 1)});
-        if (b % 8 < 6) Executa({.tipo = Tipo::Tique, .n = 3});
-        if (b % 8 < 2) Executa({.tipo = Tipo::Tique, .n = 2});
-        break;
-    case 8:
-        Executa({.alvo = {a % 2 == 0 ? u"Form1"_s : u"Pic_q2"_s}, .n = 1 + b % 570});
-        break;
-    case 9:
-        Executa({.tipo = Tipo::Tique, .n = 1 + a % 4});
-        break;
-    case 10:
-        Executa({.tipo = Tipo::Espera, .segundos = Um(kEsperas, a)});
-        Executa({.tipo = Tipo::Tique, .n = 1});
-        break;
-    case 11:
-        Clica({u"Label4"_s}, 0, r, a % 3 == 0 ? b : 0);
-        break;
-    case 12: {
-        const int entrada = Um(kEntradas, a);
-        // Words that a timer writes away from a board half laid out are not foreseen.
-        const bool monta = entrada == 0 || (entrada == 2 && c % 8 != 7);
-        Clica({u"Label3"_s, entrada}, 0, r, monta ? c : 0, 3 + b / 3 % 60);
-        break;
-    }
-    case 13:
-        Clica({a % 2 == 0 ? u"Image2"_s : u"Image8"_s});
-        break;
-    case 14:
-        Executa({.tipo = Tipo::Tecla, .n = Um(kTeclas, a)});
-        break;
-    case 15:
-        Danifica(1 + a % 3, b);
-        break;
-    case 16:
-        PreparaRanking(a);
-        break;
-    default:
-        EncheMemoria();
-    }
+    if (tipo == 2) ResolveItem(1 + a % kPalavras, b, c);
+    for (int k = a % 14; tipo == 3 && k >= 0 && m_regras.Aberto() <= kPalavras; --k)
+        ResolveItem(m_regras.Aberto(), b);
+    if (tipo == 4 && !falta.isEmpty()) Escreve(falta.chopped(1) + u'Ô', b);
+    if (tipo == 5) Clica(CasaAoAcaso(a, c % 2 == 1), b % 3);
+    if (tipo == 6) Clica({u"Lbt"_s, 1 + a % kPalavras}, kDuplosNosBotoes && b % 4 == 0 ? 2 : 0, r);
+    if (tipo == 7) Executa({.alvo = CasaAoAcaso(a, b % 2 == 1)});
+    if (tipo == 7 && b % 8 < 6) Executa({.tipo = Tipo::Tique, .n = 3});
+    if (tipo == 7 && b % 8 < 2) Executa({.tipo = Tipo::Tique, .n = 2});
+    if (tipo == 8) Executa({.alvo = {a % 2 == 0 ? u"Form1"_s : u"Pic_q2"_s}, .n = 1 + b % 570});
+    if (tipo == 9) Executa({.tipo = Tipo::Tique, .n = 1 + a % 4});
+    if (tipo == 10) Executa({.tipo = Tipo::Espera, .segundos = Um(kEsperas, a)});
+    if (tipo == 10) Executa({.tipo = Tipo::Tique, .n = 1});
+    if (tipo == 11) Clica({u"Label4"_s}, 0, r, a % 3 == 0 ? b : 0);
+    if (tipo == 12) Clica({u"Label3"_s, entrada}, 0, r, monta ? c : 0, 3 + b / 3 % 60);
+    if (tipo == 13) Clica({a % 2 == 0 ? u"Image2"_s : u"Image8"_s});
+    if (tipo == 14) Executa({.tipo = Tipo::Tecla, .n = Um(kTeclas, a)});
+    if (tipo == 15) Danifica(1 + a % 3, b);
+    if (tipo == 16) PreparaRanking(a);
+    if (tipo == 17) EncheMemoria();
     return m_erro;
 }
 

@@ -230,42 +230,32 @@ void Jogador::NoPrograma(Gesto &gesto)
     if (gesto.tipo == Tipo::Move || gesto.tipo == Tipo::Clica) Aponta(gesto);
     const QPoint lugar = form.mapFromGlobal(m_mouse);
     m_gesto = &gesto;
-    switch (gesto.tipo) {
-    case Tipo::Move:
-        break;
-    case Tipo::Clica: {
+    if (gesto.tipo == Tipo::Clica && gesto.n == 2) {
+        QTest::mouseDClick(form.windowHandle(), Qt::LeftButton, {}, lugar);
+    } else if (gesto.tipo == Tipo::Clica) {
         const auto botao = gesto.n == 1 ? Qt::MiddleButton : Qt::LeftButton;
-        if (gesto.n == 2) return QTest::mouseDClick(form.windowHandle(), botao, {}, lugar);
         QTest::mousePress(form.windowHandle(), botao, {}, lugar);
-        for (int k = 0; k < 6; ++k)
-            if (c.Label3[static_cast<size_t>(k)]->BorderStyle() !=
-                (gesto.real.nome == u"Label3" && gesto.real.n == k ? 1 : 0))
+        for (size_t k = 0; k < 6; ++k)
+            if ((c.Label3[k]->BorderStyle() == 1) !=
+                (gesto.real.nome == u"Label3" && gesto.real.n == static_cast<int>(k)))
                 m_log << u"the frame round the entries"_s;
-        return QTest::mouseRelease(form.windowHandle(), botao, {}, lugar);
-    }
-    case Tipo::Digita:
-        return ::Digita(form, gesto.texto);
-    case Tipo::Compoe: {
+        QTest::mouseRelease(form.windowHandle(), botao, {}, lugar);
+    } else if (gesto.tipo == Tipo::Compoe) {
         QInputMethodEvent antes(u"´"_s, {}), letra;
         letra.setCommitString(gesto.texto);
         QApplication::sendEvent(form.focusWidget(), &antes);
         QApplication::sendEvent(form.focusWidget(), &letra);
-        break;
-    }
-    case Tipo::Cola:
+    } else if (gesto.tipo == Tipo::Cola) {
         QApplication::clipboard()->setText(gesto.texto);
-        return ::Tecla(form, Qt::Key_V, Qt::ControlModifier);
-    case Tipo::Tecla:
-        return ::Tecla(form, static_cast<Qt::Key>(gesto.n));
-    case Tipo::Tique: {
+        ::Tecla(form, Qt::Key_V, Qt::ControlModifier);
+    } else if (gesto.tipo == Tipo::Tique) {
         const std::array timers = {&c.Timer1, &c.Timer2, &c.Timer3, &c.Timer4};
         const toolkit::Timer *timer = timers[static_cast<size_t>(gesto.n) - 1];
         if (timer->Ligado()) timer->Tique();
-        break;
     }
-    case Tipo::Espera:
-        m_jogo.maquina.agora += gesto.segundos;
-    }
+    if (gesto.tipo == Tipo::Digita) ::Digita(form, gesto.texto);
+    if (gesto.tipo == Tipo::Tecla) ::Tecla(form, static_cast<Qt::Key>(gesto.n));
+    m_jogo.maquina.agora += gesto.segundos;
 }
 
 void Jogador::Cedeu()

@@ -8,7 +8,7 @@ namespace modelo {
 namespace {
 
 constexpr int kSessoes = 5;
-constexpr int kTempoDeReduzirMs = 1;
+constexpr int kTempoDeReduzirMs = 60'000;
 
 struct Sessao
 {

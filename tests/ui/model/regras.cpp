@@ -145,8 +145,7 @@ void Regras::Seleciona(int n, bool confere)
     dica = I(n).dica;
     I(n).aceso = true;
     Focus = 0;
-    const QList<int> todas = CasasDe(n);
-    for (const int i : todas) {
+    for (const int i : CasasDe(n)) {
         if (C(i).fixa) continue;
         C(i).chao = Chao::Amarelo;
         Focus = Focus == 0 ? i : Focus;
@@ -157,8 +156,7 @@ void Regras::Seleciona(int n, bool confere)
 /// Wipes the free cells of an item.
 void Regras::Limpa(int n)
 {
-    const QList<int> todas = CasasDe(n);
-    for (const int i : todas) {
+    for (const int i : CasasDe(n)) {
         if (C(i).fixa) continue;
         Escreve(i, {});
         C(i).chao = Chao::Branco;
@@ -214,8 +212,7 @@ void Regras::Verifica(int n)
     Focus = 0;
     NoClick = false;
     QString digitada;
-    const QList<int> todas = CasasDe(n);
-    for (const int i : todas)
+    for (const int i : CasasDe(n))
         digitada += C(i).texto;
     if (Combina(Capitais(digitada), Capitais(I(n).palavra))) return Certa(n);
     Som(Sorteia(50) ? u"erro1.wav"_s : u"erro2.wav"_s);
@@ -226,8 +223,7 @@ void Regras::Verifica(int n)
 void Regras::Certa(int n)
 {
     Som(Sorteia(60) ? u"acerto1.wav"_s : u"acerto2.wav"_s);
-    const QList<int> todas = CasasDe(n);
-    for (const int i : todas) {
+    for (const int i : CasasDe(n)) {
         C(i).chao = Chao::Azul;
         C(i).fixa = true;
         // Where a paste has left another letter, or several, the cell takes the word's own.
