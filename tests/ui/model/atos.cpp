@@ -14,7 +14,7 @@ constexpr size_t kAtosPorSessao = 180;
 /// A double click on a button counts as one click still.
 constexpr bool kDuplosNosBotoes = false;
 /// How often each kind of act comes, in hundredths.
-constexpr std::array kPesos = {10, 8, 8, 6, 4, 9, 6, 9, 4, 7, 4, 7, 9, 1, 3, 3, 2};
+constexpr std::array kPesos = {10, 8, 8, 6, 4, 9, 6, 9, 4, 7, 4, 7, 9, 1, 3, 3, 1, 0, 1};
 constexpr std::array kTeclas = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Backspace, Qt::Key_Left,
                                 Qt::Key_Delete, Qt::Key_Return,  Qt::Key_Home,      Qt::Key_Escape};
 /// Entries of the menu; saving and loading come most.
@@ -29,15 +29,16 @@ const QStringList kEstragos =
     u"Ponto3=x,Sentido5=L,Tempo=-1,Palavra26=,ItemResolvido9=?,"
     "Ponto1=572,Tempo=1e999,Tempo=90061.75,Nome=Vazio,Nome=  "_s.split(u',');
 
-constexpr Ato kGuarda{12, 5, 0, 8}, kAbre{12, 2, 0, 8}, kPrimeira{12, 0, 0, 8}, kSolta{3, 13, 1, 0};
+constexpr Ato kGuarda{12, 5, 0, 8}, kAbre{12, 2, 0, 8}, kPrimeira{12, 0, 0, 8}, kSolta{3, 13, 1, 0},
+    kAjuda{11, 1, 1, 8};
 /// How sessions begin, in turn, so that what is rare comes to pass: games given up, solved by help
 /// or thrown away at once, and what is left of them.
 const std::array<std::vector<Ato>, 5> kInicios = {
     {{kGuarda, kSolta, kPrimeira, {6, 3}, kAbre, {0, 2, 1}, {12, 1, 0, 8}, kGuarda},
-     {kSolta, {3, 10, 1}, {16, 3}, {0, 7, 1}, {11, 1, 1, 8}, kPrimeira},
+     {kSolta, {3, 10, 1}, {16, 3}, {0, 7, 1}, kAjuda, kPrimeira},
      {kSolta, kGuarda, {12, 2, 0, 28}, {7, 0, 2}, {7, 1, 7}, {7, 2, 3}, {7, 3, 7}, {7, 5, 7}},
      {{10, 3}, {12, 0, 0, 7}, {10, 3}, {12, 0, 0, 15}, {17}, {9, 3}, kPrimeira, kPrimeira},
-     {{10, 4}, kGuarda, kSolta, {3, 12, 1}, kAbre, {0, 0, 1}, {9, 0}}}};
+     {{18, 1}, kAjuda, {10, 4}, kGuarda, kSolta, {3, 12, 1}, kAbre, {0, 0, 1}, {9, 0}}}};
 
 template <class T>
 const auto &Um(const T &lista, int qual)
@@ -156,6 +157,24 @@ void Jogador::EncheMemoria()
     Grava(u"jf.dat"_s, m_regras.usadas);
 }
 
+/// Puts two letters of a word that are neighbours among the accepted ones into one cell, so that
+/// the word is there with its last cell empty; help that gives another word's letter judges it.
+void Jogador::ColaDois(int a)
+{
+    for (int k = 0; k < kPalavras; ++k) {
+        const int n = 1 + (a + k) % kPalavras;
+        const QString falta = Falta(n, 1);
+        int p = 0;
+        while (p + 1 < falta.size() && falta[p].unicode() + 1 != falta[p + 1].unicode())
+            ++p;
+        if (m_regras.I(n).resolvido || p + 1 >= falta.size()) continue;
+        Clica({u"Lbt"_s, n});
+        Escreve(falta.left(p), 1);
+        Executa({.tipo = Tipo::Cola, .texto = falta.mid(p, 2)});
+        return Escreve(falta.mid(p + 2), 1);
+    }
+}
+
 QString Jogador::Faz(const Ato &ato)
 {
     const auto [tipo, a, b, c] = ato;
@@ -193,6 +212,7 @@ QString Jogador::Faz(const Ato &ato)
     if (tipo == 15) Danifica(1 + a % 3, b);
     if (tipo == 16) PreparaRanking(a);
     if (tipo == 17) EncheMemoria();
+    if (tipo == 18) ColaDois(a);
     return m_erro;
 }
 

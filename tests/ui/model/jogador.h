@@ -69,21 +69,15 @@ private:
     void Escreve(const QString &letras, int como, int interrompe = 0);
     void ResolveItem(int n, int como, int interrompe = 0);
     void Clica(const Alvo &alvo, int como = 0, const Respostas &r = {}, int com = 0, int yield = 0);
-    void Danifica(int slot, int como);
-    void PreparaRanking(int como);
-    void EncheMemoria();
+    void Danifica(int slot, int como), PreparaRanking(int como), EncheMemoria(), ColaDois(int a);
     void Grava(const QString &nome, const Arquivo &arquivo) const;
     [[nodiscard]] std::vector<Gesto> Interrupcao(int com) const;
     [[nodiscard]] Alvo CasaAoAcaso(int a, bool cruzamento) const;
     [[nodiscard]] QString Falta(int n, int como) const;
 
     // A gesture in the program, then in the model, then the comparison.
-    void Executa(Gesto gesto);
-    void Aponta(Gesto &gesto);
-    void NoPrograma(Gesto &gesto);
-    void Cedeu();
-    void NoModelo(const Gesto &gesto);
-    void CedeuNoModelo(bool noPainel);
+    void Executa(Gesto gesto), Aponta(Gesto &gesto), NoPrograma(Gesto &gesto), Cedeu();
+    void NoModelo(const Gesto &gesto), CedeuNoModelo(bool noPainel);
     int Puzzle(std::array<Item, kPalavras + 1> &itens) const;
     void Compara(const QString &gesto);
     Resposta Responde(const PedidoMensagem &pedido);
