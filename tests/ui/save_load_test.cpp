@@ -75,7 +75,7 @@ protected:
         Menu(kMenuAbrir);
     }
 
-    QString NomeNoSlot(int n) { return NomesDosSlots(Arquivo())[static_cast<size_t>(n)]; }
+    QString NomeNoSlot(int n) { return NomesDosSlots(Arquivo()).nome[static_cast<size_t>(n)]; }
     QString Arquivo() { return Dados(kArquivoJogos); }
 
     /// What a slot holds; a test with a slot that cannot be read has failed.
