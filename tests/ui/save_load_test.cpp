@@ -201,6 +201,19 @@ TEST_F(SaveLoad, AsksBeforeItOverwritesAndOffersTheOldName)
     EXPECT_EQ(NomeNoSlot(2), QStringLiteral("Sem nome 2"));
 }
 
+TEST_F(SaveLoad, SparesAGameThatTheListCouldNotShow)
+{
+    SalvaComo(2, QStringLiteral("velho"));
+    const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
+    // A folder stands there while the list is read.
+    ASSERT_TRUE(QFile::rename(Arquivo(), Dados(u"fora")) && QDir().mkdir(Arquivo()));
+    Salva(2, [this](toolkit::Form &form) {
+        ASSERT_TRUE(QDir().rmdir(Arquivo()) && QFile::rename(Dados(u"fora"), Arquivo()));
+        Enter(form);
+    });
+    EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
+}
+
 TEST_F(SaveLoad, ClosesWithoutEffectInEveryOtherWay)
 {
     SalvaComo(1, QStringLiteral("um"));
