@@ -1,6 +1,7 @@
 #include "core/records/save_slot.h"
 
 #include "core/files/ini_file.h"
+#include <algorithm>
 #include <optional>
 #include <QLocale>
 
@@ -64,7 +65,9 @@ std::optional<FalhaDoSlot> LeItem(const LoteIni &lote, const QString &secao, int
 {
     item.Palavra = lote.Le(secao, Chave(u"Palavra", i));
     item.Dica = lote.Le(secao, Chave(u"Dica", i));
-    if (item.Palavra.isEmpty() || item.Palavra.size() > kMaximoDaPalavra) {
+    const auto controle = [](QChar letra) { return letra.category() == QChar::Other_Control; };
+    if (item.Palavra.isEmpty() || item.Palavra.size() > kMaximoDaPalavra ||
+        std::any_of(item.Palavra.cbegin(), item.Palavra.cend(), controle)) {
         return FalhaDoSlot::Palavra;
     }
     const auto sentido = lote.Le(secao, Chave(u"Sentido", i));

@@ -34,7 +34,7 @@ struct JogoSalvo
 
 /// Why a slot cannot be opened: the first thing found wrong, items in order.
 enum class FalhaDoSlot {
-    /// A word is missing, or longer than 15 characters.
+    /// A word is missing, longer than 15 characters, or holds a control character.
     Palavra,
     /// Ponto or Sentido is missing, unreadable, or lets a letter fall off the board.
     Lugar,

@@ -90,6 +90,7 @@ TEST(Slot, IsRefusedForEachKindOfDamage)
     };
     for (const auto &[chave, valor, falha] : {
              Caso{u"Palavra26", u"", FalhaDoSlot::Palavra},
+             Caso{u"Palavra1", u"ÁÇ\x01O", FalhaDoSlot::Palavra},
              Caso{u"Palavra1", u"ÁÇÃODEFGHIJKLMNO", FalhaDoSlot::Palavra},
              Caso{u"Ponto3", u"", FalhaDoSlot::Lugar},
              Caso{u"Ponto3", u"0", FalhaDoSlot::Lugar},

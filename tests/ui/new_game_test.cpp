@@ -150,8 +150,11 @@ TEST(NovoJogo, SaysSoWhereTheBankCannotServe)
         EXPECT_FALSE(jogo.c().Timer1.Ligado()) << nome;
         jogo.Digita(QStringLiteral("abc"));
         JogoDeTeste::Clica(jogo.c().Lbt(3));
-        JogoDeTeste::Clica(*jogo.c().Label3[1]);
         EXPECT_EQ(jogo.maquina.mensagens.size(), 1) << nome;
+        JogoDeTeste::Clica(*jogo.c().Label3[1]);
+        JogoDeTeste::Clica(*jogo.c().Label3[3]);
+        EXPECT_EQ(jogo.maquina.mensagens.size(), 3)
+            << nome << ": restart and save say that no game is there";
     }
 }
 

@@ -83,23 +83,6 @@ TEST(Selecao, TakesTheOpenWordOfACrossingAndNoSolvedOne)
     EXPECT_TRUE(jogo.maquina.sons.isEmpty());
 }
 
-TEST(Selecao, ChecksAnItemWithoutAFreeCellAtOnce)
-{
-    JogoDeTeste jogo;
-    jogo.Comeca();
-    const RegistroItem &item = jogo.d().Item(9);
-    for (int k = 0; k < item.Palavra.size(); ++k) {
-        const int i = CelulaDaLetra(item, k);
-        jogo.c().Text1(i).SetText(item.Palavra[k]);
-        jogo.c().Text1(i).SetBackColor(kCorFixa);
-        jogo.d().Quadrado(i).Fixa = true;
-    }
-    jogo.Seleciona(9);
-    EXPECT_TRUE(jogo.d().Item(9).ItemResolvido);
-    EXPECT_NE(jogo.d().estado.item, 9);
-    EXPECT_EQ(jogo.FaltaNoEstado(), QString());
-}
-
 TEST(BalaoDica, ShowsTheCluesOfACrossingAcrossFirst)
 {
     JogoDeTeste jogo;

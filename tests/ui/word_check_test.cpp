@@ -147,6 +147,6 @@ TEST(Verificacao, GivesEachCellOneLetterWhereAPasteCameOutRight)
     jogo.c().Text1(CelulaDaLetra(item, ultima)).SetText(item.Palavra.right(1));
     ASSERT_TRUE(item.ItemResolvido);
     for (int k = 0; k < item.Palavra.size(); ++k) {
-        EXPECT_EQ(jogo.c().Text1(CelulaDaLetra(item, k)).Text().size(), 1) << k;
+        EXPECT_EQ(jogo.c().Text1(CelulaDaLetra(item, k)).Text(), item.Palavra.mid(k, 1)) << k;
     }
 }

@@ -3,11 +3,17 @@
 #include "core/machine/shared_routines.h"
 #include "core/machine/sound.h"
 #include "ui/gameplay/selection.h"
+#include "ui/gameplay/word_check.h"
 
 namespace {
 
 /// Price of a letter, in seconds.
 constexpr double kPrecoSocorro = 120;
+
+PedidoMensagem SemJogo()
+{
+    return {QStringLiteral("Não há nenhum jogo no tabuleiro.\rClique em 'Novo Jogo'")};
+}
 
 } // namespace
 
@@ -90,6 +96,7 @@ void Comandos::Reinicia()
         return;
     }
     if (d.tabuleiro.QtdItens < kItens) {
+        d.ambiente.mensagem(SemJogo());
         return;
     }
     for (int i = 1; i <= kCelulas; ++i) {
@@ -111,6 +118,8 @@ void Comandos::Salva()
 {
     if (d.estado.TudoResolvido) {
         d.ambiente.mensagem({QStringLiteral("O jogo atual já está completamente resolvido")});
+    } else if (d.tabuleiro.QtdItens < kItens) {
+        d.ambiente.mensagem(SemJogo());
     } else {
         AbreSalvar();
     }
@@ -146,7 +155,7 @@ void Comandos::Label4_Click()
     d.Quadrado(c).Fixa = true;
     // A wrong check has wiped the free cells, this one among them.
     celula.SetText(d.Quadrado(c).Letra);
-    m_selecao.Text1_MouseDown(c);
+    m_verificacao.ConfereSelecao(m_selecao.Text1_MouseDown(c));
     if (AoDarLetra) {
         AoDarLetra(c);
     }

@@ -5,12 +5,16 @@
 #include <functional>
 
 class Selecao;
+class Verificacao;
 
 /// The six menu entries, the help and the two title buttons.
 class Comandos
 {
 public:
-    Comandos(const ContextoJogo &jogo, Selecao &selecao) : d(jogo), m_selecao(selecao) {}
+    Comandos(const ContextoJogo &jogo, Selecao &selecao, Verificacao &verificacao)
+        : d(jogo), m_selecao(selecao), m_verificacao(verificacao)
+    {
+    }
 
     /// A click on menu entry `Index`, 0 to 5: Novo Jogo (or Desistir), Reiniciar, Abrir, Salvar,
     /// Ranking, Sair.
@@ -43,4 +47,5 @@ private:
 
     ContextoJogo d;
     Selecao &m_selecao;
+    Verificacao &m_verificacao;
 };

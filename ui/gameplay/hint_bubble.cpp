@@ -10,6 +10,7 @@ constexpr float kMargemAltura = 6;
 
 void BalaoDica::Text1_MouseMove(int Index)
 {
+    const int gesto = ++m_gesto;
     if (d.valores.Desistiu) {
         return;
     }
@@ -20,6 +21,10 @@ void BalaoDica::Text1_MouseMove(int Index)
     }
     d.c.Picture2.SetVisible(false);
     d.ambiente.deixaEventos();
+    // Meanwhile the mouse can have moved on, and the word been solved or given up.
+    if (m_gesto != gesto || TextoDe(Index) != texto) {
+        return;
+    }
     d.c.LbHint.SetCaption(texto);
     Coloca(Index);
     d.c.Picture2.ZOrderFrente();
@@ -85,6 +90,7 @@ void BalaoDica::Coloca(int Index)
 
 void BalaoDica::ForaDasCelulas()
 {
+    ++m_gesto;
     d.c.Picture2.SetVisible(false);
     d.estado.avisoa.clear();
     d.c.Timer3.SetLigado(false);

@@ -22,4 +22,6 @@ private:
     void Coloca(int Index);
 
     ContextoJogo d;
+    /// Counts the movements, so that one that let events run finds out that another has come.
+    int m_gesto = 0;
 };

@@ -9,7 +9,7 @@ constexpr float kRecuoMarca = 30;
 
 } // namespace
 
-void Selecao::Lbt_Click(int Index)
+Achado Selecao::Lbt_Click(int Index)
 {
     if (d.estado.NoClick) {
         TocaSom(d.valores, d.ambiente, u"select.wav");
@@ -17,14 +17,14 @@ void Selecao::Lbt_Click(int Index)
     d.estado.NoClick = true;
     // Where no game stands there is no item behind the buttons.
     if (Index == 0 || Index > d.tabuleiro.QtdItens) {
-        return;
+        return Achado::Nada;
     }
     if (d.valores.Desistiu) {
         d.c.Label1.SetCaption(d.Item(Index).Dica);
-        return;
+        return Achado::Nada;
     }
     if (d.Item(Index).ItemResolvido) {
-        return;
+        return Achado::Nada;
     }
     toolkit::Label &botao = d.c.Lbt(Index);
     d.c.Image1.SetLeft(botao.Left() - kRecuoMarca);
@@ -43,16 +43,12 @@ void Selecao::Lbt_Click(int Index)
     }
     botao.SetForeColor(toolkit::kBranco);
     botao.SetFontBold(true);
-    if (livre == 0 && SemCelulaLivre) {
-        SemCelulaLivre(Index);
-    }
+    return livre != 0 ? Achado::Cursor : Achado::NenhumaLivre;
 }
 
-void Selecao::CliqueNoBotao(int Index)
+Achado Selecao::CliqueNoBotao(int Index)
 {
-    if (!d.c.Picespere.Visible()) {
-        Lbt_Click(Index);
-    }
+    return d.c.Picespere.Visible() ? Achado::Nada : Lbt_Click(Index);
 }
 
 void Selecao::Desmarca(int item)
@@ -87,14 +83,10 @@ int Selecao::Marca(int item)
     return livre;
 }
 
-void Selecao::Text1_MouseDown(int Index)
+Achado Selecao::Text1_MouseDown(int Index)
 {
-    if (d.valores.Desistiu) {
-        return;
-    }
-    if (const int escolhido = Escolhe(LeItens(d.Quadrado(Index).Itens)); escolhido != 0) {
-        Lbt_Click(escolhido);
-    }
+    const int escolhido = d.valores.Desistiu ? 0 : Escolhe(LeItens(d.Quadrado(Index).Itens));
+    return escolhido != 0 ? Lbt_Click(escolhido) : Achado::Nada;
 }
 
 /// The item that a press on a cell of `itens` selects, or 0.

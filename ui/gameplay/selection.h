@@ -2,7 +2,9 @@
 
 #include "ui/gameplay/play_context.h"
 
-#include <functional>
+/// What a selection found: nothing to select, a free cell for the cursor, or an item without one,
+/// all of whose letters stand already. Nothing typed can ever raise the check of such an item.
+enum class Achado { Nada, Cursor, NenhumaLivre };
 
 /// The selection of one item: its button is marked, its free cells are tinted, its clue is shown
 /// and the cursor stands in its first free cell.
@@ -14,19 +16,15 @@ public:
     /// Selects item `Index` (1 to kItens; 0 only sounds) and wipes what was typed into the item
     /// that is left, also if that is the same one. A solved item is not selected; after giving up
     /// only the clue is shown.
-    void Lbt_Click(int Index);
+    Achado Lbt_Click(int Index);
     /// A click of the player on the button of item `Index`: nothing while a board is built or
     /// loaded.
-    void CliqueNoBotao(int Index);
+    Achado CliqueNoBotao(int Index);
     /// A press of any mouse button on cell `Index`: selects an open item through it. Crossing cells
     /// of two open items alternate between them.
-    void Text1_MouseDown(int Index);
+    Achado Text1_MouseDown(int Index);
     /// The second press of a double click counts as one more press.
-    void Text1_DblClick(int Index) { Text1_MouseDown(Index); }
-
-    /// Called with an item that has just been selected and has no free cell: all its letters stand
-    /// already, so nothing typed can ever raise its check.
-    std::function<void(int item)> SemCelulaLivre;
+    Achado Text1_DblClick(int Index) { return Text1_MouseDown(Index); }
 
 private:
     void Desmarca(int item);

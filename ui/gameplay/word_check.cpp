@@ -2,7 +2,6 @@
 
 #include "core/machine/shared_routines.h"
 #include "core/machine/sound.h"
-#include "ui/gameplay/selection.h"
 
 #include <utility>
 
@@ -16,6 +15,21 @@ constexpr float kUniao = 1;
 
 void Verificacao::VerificaPalavra(int i)
 {
+    while (i != 0) {
+        i = Julga(i);
+    }
+}
+
+void Verificacao::ConfereSelecao(Achado achado)
+{
+    if (achado == Achado::NenhumaLivre) {
+        VerificaPalavra(d.estado.item);
+    }
+}
+
+/// Gives the item that is to be checked next, or 0.
+int Verificacao::Julga(int i)
+{
     d.estado.Focus = 0;
     d.c.Picture1.SetFocus();
     QString digitado = Digitado(d.Item(i));
@@ -25,10 +39,10 @@ void Verificacao::VerificaPalavra(int i)
         AoJulgar(i, certa);
     }
     if (certa) {
-        Certa(i);
-    } else {
-        Errada(i);
+        return Certa(i);
     }
+    Errada(i);
+    return 0;
 }
 
 QString Verificacao::Digitado(const RegistroItem &item) const
@@ -55,7 +69,8 @@ void Verificacao::Errada(int i)
     m_selecao.Lbt_Click(i);
 }
 
-void Verificacao::Certa(int i)
+/// As Julga.
+int Verificacao::Certa(int i)
 {
     TocaSom(d.valores, d.ambiente,
             Sorteia(*d.ambiente.acaso, 60) ? u"acerto1.wav" : u"acerto2.wav");
@@ -65,20 +80,21 @@ void Verificacao::Certa(int i)
     SomeNoTab(i);
     const int partida = d.tabuleiro.Partida;
     d.ambiente.deixaEventos();
-    if (d.tabuleiro.Partida != partida) {
-        return;
+    // Meanwhile another board can have come, the player have given up, or help have ended the game.
+    if (d.tabuleiro.Partida != partida || d.estado.TudoResolvido) {
+        return 0;
     }
     MostraDesistir();
     if (ContaResolvidos(d.tabuleiro) == kItens) {
         Termina();
-        return;
+        return 0;
     }
     d.c.Picture1.SetFocus();
-    m_selecao.Lbt_Click(ProximoItem(i));
+    return m_selecao.Lbt_Click(ProximoItem(i)) == Achado::NenhumaLivre ? d.estado.item : 0;
 }
 
 /// Locks the cells of a right word. Each keeps the letter as it was typed; a pasted text can have
-/// left one cell with several letters and another with none, and those take the word's own.
+/// left cells with several letters, with none or with a neighbour's, and those take the word's own.
 void Verificacao::Fixa(const RegistroItem &item)
 {
     const int selecionado = std::exchange(d.estado.item, 0);
@@ -86,7 +102,9 @@ void Verificacao::Fixa(const RegistroItem &item)
         const int c = CelulaDaLetra(item, k);
         d.c.Text1(c).SetBackColor(kCorFixa);
         d.Quadrado(c).Fixa = true;
-        if (d.c.Text1(c).Text().size() != 1) {
+        QString digitada = d.c.Text1(c).Text();
+        QString propria = item.Palavra[k];
+        if (!ComparaPalavra(digitada, propria)) {
             d.c.Text1(c).SetText(item.Palavra[k]);
         }
     }

@@ -34,7 +34,7 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
       m_verificacao(m_jogo, m_selecao),
       m_balao(m_jogo),
       m_relogio(m_jogo),
-      m_comandos(m_jogo, m_selecao),
+      m_comandos(m_jogo, m_selecao, m_verificacao),
       m_carga(m_jogo, {m_vista, m_selecao, m_entrada, m_verificacao}),
       m_acessivel(m_jogo)
 {
@@ -121,15 +121,16 @@ void Form1::LigaTabuleiro()
     m_c.Text1.AoCarregar = [this](toolkit::TextBox &celula, int i) {
         celula.Change = [this, i] { m_entrada.Text1_Change(i); };
         celula.GotFocus = [this, i] { m_entrada.Text1_GotFocus(i); };
-        celula.MouseDown = [this, i](const toolkit::Mouse &) { m_selecao.Text1_MouseDown(i); };
-        celula.DblClick = [this, i] { m_selecao.Text1_DblClick(i); };
+        celula.MouseDown = [this, i](const toolkit::Mouse &) {
+            m_verificacao.ConfereSelecao(m_selecao.Text1_MouseDown(i));
+        };
+        celula.DblClick = [this, i] { m_verificacao.ConfereSelecao(m_selecao.Text1_DblClick(i)); };
         celula.MouseMove = [this, i](const toolkit::Mouse &) { m_balao.Text1_MouseMove(i); };
     };
     m_c.Lbt.AoCarregar = [this](toolkit::Label &botao, int n) {
-        botao.Click = [this, n] { m_selecao.CliqueNoBotao(n); };
+        botao.Click = [this, n] { m_verificacao.ConfereSelecao(m_selecao.CliqueNoBotao(n)); };
     };
     m_entrada.VerificaPalavra = [this](int i) { m_verificacao.VerificaPalavra(i); };
-    m_selecao.SemCelulaLivre = [this](int i) { m_verificacao.VerificaPalavra(i); };
 }
 
 void Form1::LigaBalao()
@@ -165,17 +166,9 @@ void Form1::LigaDialogos()
     m_comandos.AbreCarregar = [this] {
         FrmCarregar(Dialogos(), [this](int n) { m_carga.CarregaJogo(n); }).ShowModal();
     };
-    m_comandos.AbreSalvar = [this] { AbreSalvar(); };
+    m_comandos.AbreSalvar = [this] { FrmSalvar(Dialogos(), m_tabuleiro).ShowModal(); };
     m_comandos.AbreRanking = [this] { FrmHanking(Dialogos()).ShowModal(); };
     m_verificacao.VerificaRecords = [this](int t) { return ::VerificaRecords(Dialogos(), t); };
-}
-
-void Form1::AbreSalvar()
-{
-    // Where the bank could not serve there is no game to be saved.
-    if (m_tabuleiro.QtdItens == kItens) {
-        FrmSalvar(Dialogos(), m_tabuleiro).ShowModal();
-    }
 }
 
 void Form1::LigaRelogio()

@@ -39,7 +39,6 @@ private:
     void LigaRelogio();
     void LigaAcessibilidade();
     void AjustaAoDpi(int dpiAplicado);
-    void AbreSalvar();
     [[nodiscard]] ContextoDialogo Dialogos() { return {m_valores, m_ambiente, m_form}; }
 
     ValoresPrograma &m_valores;

@@ -23,15 +23,16 @@ void CargaJogo::CarregaJogo(int n)
             {QStringLiteral("O jogo salvo neste local está danificado e não pode ser aberto.")});
         return;
     }
-    const int cheio = Abre(*salvo);
-    if (cheio != 0 && !d.Item(cheio).ItemResolvido) {
-        m_salas.verificacao.VerificaPalavra(cheio);
+    const Achado achado = Abre(*salvo);
+    // Events have run since: the player can have given up, or selected another item.
+    if (!d.estado.TudoResolvido && d.estado.Focus == 0) {
+        m_salas.verificacao.ConfereSelecao(achado);
     }
 }
 
-/// The load itself. Gives the selected item if it has no free cell: its check, which can end the
-/// game, has to wait until the game has begun.
-int CargaJogo::Abre(const JogoSalvo &salvo)
+/// The load itself. Gives what the selection found: a check of the item, which can end the game,
+/// has to wait until the game has begun.
+Achado CargaJogo::Abre(const JogoSalvo &salvo)
 {
     const QScopedValueRollback montando(d.estado.Montando, true);
     // What is typed meanwhile, and what is written into the cells, goes nowhere.
@@ -40,11 +41,13 @@ int CargaJogo::Abre(const JogoSalvo &salvo)
     DeitaItens(salvo);
     m_salas.entrada.SetAtiva(true);
     m_salas.vista.CentraGrade();
-    const int cheio = SelecionaPrimeiroAberto();
+    // Where no item is open, nothing is selected.
+    const int aberto = PrimeiroAberto(d.tabuleiro);
+    const Achado achado = aberto != 0 ? m_salas.selecao.Lbt_Click(aberto) : Achado::Nada;
     d.ambiente.mensagem({QStringLiteral("Serão acrescentados 2 minutos ao seu tempo")});
     d.valores.HoraInicio = d.ambiente.Agora() - (salvo.tempo + kPrecoCarga);
     ComecaPartida();
-    return cheio;
+    return achado;
 }
 
 /// Panel and shield up, board empty.
@@ -79,18 +82,6 @@ void CargaJogo::DeitaItens(const JogoSalvo &salvo)
         }
         d.ambiente.deixaEventos();
     }
-}
-
-/// Gives the item if it has no free cell, else 0. Where no item is open, nothing is selected.
-int CargaJogo::SelecionaPrimeiroAberto()
-{
-    int cheio = 0;
-    const QScopedValueRollback adiada(m_salas.selecao.SemCelulaLivre,
-                                      std::function<void(int)>([&cheio](int i) { cheio = i; }));
-    if (const int aberto = PrimeiroAberto(d.tabuleiro); aberto != 0) {
-        m_salas.selecao.Lbt_Click(aberto);
-    }
-    return cheio;
 }
 
 void CargaJogo::ComecaPartida()

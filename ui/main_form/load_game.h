@@ -29,10 +29,9 @@ public:
     void CarregaJogo(int n);
 
 private:
-    int Abre(const JogoSalvo &salvo);
+    Achado Abre(const JogoSalvo &salvo);
     void MostraEspera();
     void DeitaItens(const JogoSalvo &salvo);
-    int SelecionaPrimeiroAberto();
     void ComecaPartida();
 
     ContextoJogo d;

@@ -1,7 +1,5 @@
 #include "ui/toolkit/control.h"
 
-#include "ui/toolkit/form.h"
-
 #include <QAccessible>
 #include <QMouseEvent>
 #include <utility>
@@ -172,7 +170,7 @@ Papel Control::PapelAtual() const
 void Control::AvisaMudanca() const
 {
     if (QAccessible::isActive()) {
-        if (auto *form = dynamic_cast<Form *>(m_widget->window())) {
+        if (auto *form = dynamic_cast<JanelaDeControles *>(m_widget->window())) {
             form->AvisaMudanca();
         }
     }

@@ -1,5 +1,6 @@
 #include "ui/toolkit/form.h"
 
+#include "ui/toolkit/accessible_factory.h"
 #include "ui/toolkit/command_button.h"
 #include "ui/toolkit/window_region.h"
 

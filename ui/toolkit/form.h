@@ -20,7 +20,7 @@ enum class Moldura { Nenhuma, Ferramenta };
 /// window's, so outer size and client size are the same for the others.
 ///
 /// Owns its controls, in the order of their creation.
-class Form : public QWidget
+class Form : public QWidget, public JanelaDeControles
 {
 public:
     /// `dpi`: dots per inch that a twip counts by.
@@ -88,9 +88,7 @@ public:
     /// colour of the picture's pixels that lie outside: they are never shown.
     void SetWindowRgn(const std::function<QRegion(qreal escala)> &regiao, QRgb chave);
 
-    /// One of its controls looks different: assistive technology is told what reads differently
-    /// now, once the event at hand is dealt with.
-    void AvisaMudanca();
+    void AvisaMudanca() override;
 
     /// Fires when the form becomes the active window, the first time at the latest when it is
     /// shown.

@@ -10,6 +10,18 @@
 
 namespace toolkit {
 
+namespace {
+
+/// The text as a box of one line stores it: with blanks for control characters.
+QString SemControles(QString texto)
+{
+    const auto controle = [](QChar letra) { return letra.category() == QChar::Other_Control; };
+    std::replace_if(texto.begin(), texto.end(), controle, u' ');
+    return texto;
+}
+
+} // namespace
+
 /// The widget: a line edit with a flat one-pixel frame.
 class TextBox::Campo final : public QLineEdit, public WidgetDeControle
 {
@@ -61,10 +73,7 @@ TextBox::TextBox(const Origem &origem) : Control(origem), m_campo(new Campo(orig
 void TextBox::TextoMudou()
 {
     AvisaMudanca();
-    QString texto = m_campo->text();
-    const auto controle = [](QChar letra) { return letra.category() == QChar::Other_Control; };
-    if (std::any_of(texto.cbegin(), texto.cend(), controle)) {
-        std::replace_if(texto.begin(), texto.end(), controle, u' ');
+    if (const QString texto = SemControles(m_campo->text()); texto != m_campo->text()) {
         // Comes back here with the text that is left.
         m_campo->setText(texto);
     } else if (Change) {
@@ -79,9 +88,12 @@ QString TextBox::Text() const
 
 void TextBox::SetText(const QString &texto)
 {
-    // Setting the text that stands there would still forget the undo history and move the cursor.
-    if (texto != m_campo->text()) {
-        m_campo->setText(texto);
+    // Setting the text that stands there would still forget the undo history and move the cursor,
+    // and a Change handler that sets a text which the box stores otherwise would never come to
+    // rest.
+    const QString guardado = SemControles(texto).left(m_campo->maxLength());
+    if (guardado != m_campo->text()) {
+        m_campo->setText(guardado);
     }
 }
 
