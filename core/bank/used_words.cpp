@@ -38,15 +38,15 @@ void LeUsadas(MemoriaUsadas &memoria, const QString &arquivo)
 void GravaUsadas(MemoriaUsadas &memoria, const QString &arquivo, const Tabuleiro &tabuleiro)
 {
     Q_ASSERT(tabuleiro.QtdItens >= 0 && tabuleiro.QtdItens <= kItens);
-    LoteIni lote(arquivo);
-    // Downwards, so that each word is read before its place is taken.
-    for (int k = kUsadas; k > tabuleiro.QtdItens; --k) {
-        lote.Escreve(kSecao, Chave(k), lote.Le(kSecao, Chave(k - kItens)));
-    }
-    for (int k = 1; k <= tabuleiro.QtdItens; ++k) {
-        lote.Escreve(kSecao, Chave(k), PalavraDoItem(tabuleiro, k));
-    }
-    lote.Grava();
+    MudaIni(arquivo, [&tabuleiro](LoteIni &lote) {
+        // Downwards, so that each word is read before its place is taken.
+        for (int k = kUsadas; k > tabuleiro.QtdItens; --k) {
+            lote.Escreve(kSecao, Chave(k), lote.Le(kSecao, Chave(k - kItens)));
+        }
+        for (int k = 1; k <= tabuleiro.QtdItens; ++k) {
+            lote.Escreve(kSecao, Chave(k), PalavraDoItem(tabuleiro, k));
+        }
+    });
     LeUsadas(memoria, arquivo);
 }
 

@@ -53,4 +53,12 @@ enum class FalhaDoSlot {
 std::variant<JogoSalvo, FalhaDoSlot> LeSlot(const QString &arquivo, int n);
 
 /// The names of slots 1 to kSlots, entry 0 unused. A slot without a name is free.
-std::array<QString, kSlots + 1> NomesDosSlots(const QString &arquivo);
+struct NomesSalvos
+{
+    std::array<QString, kSlots + 1> nome;
+    /// False where the file is there and cannot be read: the names are empty, the slots perhaps
+    /// not.
+    bool lidos = true;
+};
+
+NomesSalvos NomesDosSlots(const QString &arquivo);

@@ -111,7 +111,10 @@ save_as 1 primeiro
 before=$(ini "$saved" jogo1 Tempo)
 leave
 
+# What a writer that was killed leaves behind.
+: >"$saved.qWeRtY"
 start "$1"
+[ ! -e "$saved.qWeRtY" ] || die "a dead writer's file is still there"
 dialog 2 'Abrir Jogo'
 click 125 54
 wait_for 10 "notice of the price" message

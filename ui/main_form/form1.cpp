@@ -1,6 +1,7 @@
 #include "ui/main_form/form1.h"
 
 #include "assets/pictures.h"
+#include "core/files/whole_file.h"
 #include "core/registry/screen_dpi.h"
 #include "ui/records/load_form.h"
 #include "ui/records/ranking_check.h"
@@ -50,6 +51,9 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
 void Form1::Form_Load()
 {
     m_valores.SomLigado = true;
+    for (const auto *nome : {kArquivoUsadas, kArquivoJogos, kArquivoRanking}) {
+        LimpaRestos(Caminho(m_valores.PastaDados, nome));
+    }
     LeUsadas(m_memoria, Caminho(m_valores.PastaDados, kArquivoUsadas));
     DaForma(m_form, m_valores);
     CentralizaForm(m_form);
