@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
-#include <QPainter>
 #include <QTimer>
 
 namespace {
@@ -26,30 +25,20 @@ std::unique_ptr<Form> Faz(const forms::DefForm &def, int dpi = toolkit::kDpiPadr
     return form;
 }
 
-/// The row `y` of a picture as runs of one colour: "p1" for one black pixel, "b26" for 26 white
-/// ones, "." for any number of others.
-QString Trechos(const QImage &imagem, int y)
+/// The row `y` of a picture in runs: "2" for two black pixels, "b" for white ones, "." for others.
+std::string Trechos(const QImage &imagem, int y)
 {
-    QString trechos;
-    for (int x = 0; x < imagem.width();) {
+    std::string trechos;
+    for (int x = 0, inicio = 0; x < imagem.width(); inicio = x) {
         const QRgb cor = imagem.pixel(x, y);
-        const int inicio = x;
         while (x < imagem.width() && imagem.pixel(x, y) == cor) {
             ++x;
         }
-        trechos += cor == qRgb(0, 0, 0)         ? QStringLiteral("p%1").arg(x - inicio)
-                   : cor == qRgb(255, 255, 255) ? QStringLiteral("b")
-                                                : QStringLiteral(".");
+        trechos += cor == qRgb(0, 0, 0)         ? std::to_string(x - inicio)
+                   : cor == qRgb(255, 255, 255) ? "b"
+                                                : ".";
     }
     return trechos;
-}
-
-QImage Mostra(Form &form, qreal escala)
-{
-    QImage imagem((QSizeF(form.size()) * escala).toSize(), QImage::Format_RGB32);
-    imagem.setDevicePixelRatio(escala);
-    form.render(&imagem);
-    return imagem;
 }
 
 } // namespace
@@ -57,27 +46,28 @@ QImage Mostra(Form &form, qreal escala)
 TEST(Looks, NothingShowsOutsideAFrameAtAnyScale)
 {
     for (const qreal escala : {1.0, 1.25, 1.5, 1.75, 2.0, 2.25, 3.0}) {
-        for (int canto = 0; canto < 4; ++canto) {
+        for (int canto = 10; canto < 14; ++canto) {
             Form form(Moldura::Nenhuma, toolkit::kDpiPadrao);
-            form.SetSize(1500, 1500);
-            const auto lugar = static_cast<float>(150 + 15 * canto);
-            // Neighbours share a line. Nothing has the focus, so there is no cursor.
+            form.SetSize(900, 900);
+            // Three boxes round a corner; neighbours share a line.
+            const auto lugar = static_cast<float>(15 * canto);
             form.Cria<toolkit::TextBox>(QStringLiteral("A")).Move(lugar, lugar, 285, 285);
             form.Cria<toolkit::TextBox>(QStringLiteral("B")).Move(lugar + 270, lugar, 285, 285);
             auto &caixa = form.Cria<toolkit::PictureBox>(QStringLiteral("C"));
             caixa.SetBorderStyle(1);
             caixa.SetBackColor(toolkit::kBranco);
-            caixa.Move(lugar + 600, lugar, 285, 285);
-            const QImage imagem = Mostra(form, escala);
-            const auto meio = static_cast<int>((lugar / 15 + 9) * escala);
-            const QString linha = QStringLiteral("p%1").arg(static_cast<int>(escala));
-            const QString caixas =
-                QStringLiteral(".%1b%1b%1.%1b%1.").replace(QStringLiteral("%1"), linha);
-            EXPECT_EQ(Trechos(imagem, meio).toStdString(), caixas.toStdString())
-                << escala << " at " << canto;
-            const QImage deLado = imagem.transformed(QTransform().rotate(90).scale(1, -1));
-            const QString coluna = QStringLiteral(".%1b%1.").replace(QStringLiteral("%1"), linha);
-            EXPECT_EQ(Trechos(deLado, meio).toStdString(), coluna.toStdString())
+            caixa.Move(lugar, lugar + 270, 285, 285);
+            QImage imagem((QSizeF(form.size()) * escala).toSize(), QImage::Format_RGB32);
+            imagem.setDevicePixelRatio(escala);
+            form.render(&imagem);
+            const std::string linha = std::to_string(static_cast<int>(escala));
+            const auto esperado =
+                std::string(".").append(linha).append("b").append(linha).append("b").append(linha) +
+                ".";
+            const auto meio = static_cast<int>((canto + 9) * escala);
+            EXPECT_EQ(Trechos(imagem, meio), esperado) << escala << " across at " << canto;
+            EXPECT_EQ(Trechos(imagem.transformed(QTransform().rotate(90).scale(1, -1)), meio),
+                      esperado)
                 << escala << " down at " << canto;
         }
     }
@@ -112,25 +102,18 @@ TEST(Looks, LettersOfATitleLieUnderTheStripThatDrags)
 
 TEST(Looks, NamesOfSavedGamesStandInTheirRows)
 {
+    constexpr int kPasso = 27;
     for (const forms::DefForm *def : {&forms::kFrmCarregar, &forms::kFrmSalvar}) {
         const auto form = Faz(*def);
         const QImage &figura = form->GetPicture().Pixels();
-        const auto regua = [&figura](int y) { return figura.pixel(20, y) != figura.pixel(20, 43); };
-        for (const int n : {1, 10}) {
-            const QRect lugar = forms::Acha<Label>(*form, u"LbSave", n).Widget()->geometry();
-            int cima = lugar.center().y();
-            int baixo = cima;
-            while (!regua(cima)) {
-                --cima;
-            }
-            while (!regua(baixo)) {
-                ++baixo;
-            }
-            const QFontMetrics letra(
-                ParaQt(forms::Acha<Label>(*form, u"LbSave", n).GetFont(), form->Dpi()));
-            const double meio = lugar.top() + letra.ascent() - letra.capHeight() / 2.0;
-            EXPECT_NEAR(meio, (cima + 1 + baixo) / 2.0, 2) << form->objectName().toStdString() << n;
+        const auto &nome = forms::Acha<Label>(*form, u"LbSave", 10);
+        int linha = nome.Widget()->geometry().center().y();
+        while (figura.pixel(20, linha) == figura.pixel(20, linha - 1)) {
+            --linha;
         }
+        const QFontMetrics letra(ParaQt(nome.GetFont(), form->Dpi()));
+        const double meio = nome.Widget()->y() + letra.ascent() - letra.capHeight() / 2.0;
+        EXPECT_NEAR(meio, linha + (kPasso - 1) / 2.0, 2) << form->objectName().toStdString();
     }
 }
 
