@@ -1,6 +1,7 @@
 #include "ui/toolkit/form.h"
 
 #include "ui/toolkit/command_button.h"
+#include "ui/toolkit/keyboard.h"
 #include "ui/toolkit/window_region.h"
 
 #include <algorithm>
@@ -297,6 +298,14 @@ void Form::showEvent(QShowEvent *evento)
             DisparaActivate();
         }
     });
+}
+
+void Form::hideEvent(QHideEvent *evento)
+{
+    QWidget::hideEvent(evento);
+    if (!evento->spontaneous()) {
+        DevolveTeclado(*this);
+    }
 }
 
 void Form::DisparaActivate()

@@ -118,6 +118,7 @@ protected:
     void keyPressEvent(QKeyEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
+    void hideEvent(QHideEvent *evento) override;
     bool event(QEvent *evento) override;
 
 private:
