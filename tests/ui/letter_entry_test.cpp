@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QClipboard>
 #include <QInputMethodEvent>
+#include <qpa/qwindowsysteminterface.h>
 #include <QTest>
 
 namespace {
@@ -42,6 +44,7 @@ void Compoe(QWidget *alvo, const QString &previa, const QString &texto)
     QInputMethodEvent evento(previa, {});
     evento.setCommitString(texto);
     QApplication::sendEvent(alvo, &evento);
+    QCoreApplication::processEvents();
 }
 
 } // namespace
@@ -85,6 +88,19 @@ TEST(EntradaLetras, TakesComposedLettersHoweverTheyCome)
     EXPECT_EQ(t.Texto(1), QStringLiteral("Õ"));
     EXPECT_EQ(t.Texto(2), QStringLiteral("Ã"));
     EXPECT_EQ(t.jogo.FaltaNoEstado(), QString());
+}
+
+TEST(EntradaLetras, KeepsTheOrderInWhichPlainAndComposedLettersWereTyped)
+{
+    ComItemLongo t;
+    t.jogo.form->Janela().activateWindow();
+    QCoreApplication::processEvents();
+    // On a busy machine the plain letter still waits while the input method composes.
+    QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
+        t.jogo.form->Janela().windowHandle(), QEvent::KeyPress, Qt::Key_M, Qt::NoModifier,
+        QStringLiteral("m"));
+    Compoe(t.jogo.form->Janela().focusWidget(), QString(), QStringLiteral("ü"));
+    EXPECT_EQ(t.Texto(0) + t.Texto(1), QStringLiteral("MÜ"));
 }
 
 TEST(EntradaLetras, LetsAPastedRunOfTheListStand)

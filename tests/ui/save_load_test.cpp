@@ -146,6 +146,7 @@ TEST_F(SaveLoad, TakesNamesOfFourteenCharactersInWhateverWay)
         QInputMethodEvent evento;
         evento.setCommitString(QStringLiteral("ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛ"));
         QCoreApplication::sendEvent(form.focusWidget(), &evento);
+        QCoreApplication::processEvents();
     };
     const std::array casos = {
         Caso{"typed", [](auto &form) { Digita(form, QStringLiteral("abcdefghijklmnop")); },

@@ -1,6 +1,7 @@
 #include "ui/toolkit/keyboard.h"
 
 #include <QKeyEvent>
+#include <qpa/qwindowsysteminterface.h>
 #include <QWidget>
 #include <QWindow>
 
@@ -30,6 +31,13 @@ bool TeclaRepetida(const QEvent &evento)
 {
     return evento.type() == QEvent::KeyPress &&
            static_cast<const QKeyEvent &>(evento).isAutoRepeat();
+}
+
+void DigitaComposto(const QWidget &janela, const QString &texto)
+{
+    using Fila = QWindowSystemInterface::AsynchronousDelivery;
+    QWindowSystemInterface::handleKeyEvent<Fila>(janela.windowHandle(), QEvent::KeyPress,
+                                                 Qt::Key_unknown, Qt::NoModifier, texto);
 }
 
 } // namespace toolkit

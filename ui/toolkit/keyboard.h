@@ -1,6 +1,7 @@
 #pragma once
 
 class QEvent;
+class QString;
 class QWidget;
 
 namespace toolkit {
@@ -14,5 +15,11 @@ void DevolveTeclado(QWidget &janela);
 
 /// Whether `evento` is a key that goes on being held down.
 [[nodiscard]] bool TeclaRepetida(const QEvent &evento);
+
+/// Lets `texto`, which an input method has composed for a field of `janela`, come in like a typed
+/// key: behind the keys that were typed before it, and once the input method has done its work. In
+/// the middle of that work whatever the text sets off, a window with a field of its own above all,
+/// would find an input method that has not finished.
+void DigitaComposto(const QWidget &janela, const QString &texto);
 
 } // namespace toolkit

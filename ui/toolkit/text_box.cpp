@@ -1,10 +1,12 @@
 #include "ui/toolkit/text_box.h"
 
+#include "ui/toolkit/keyboard.h"
 #include "ui/toolkit/thin_frame.h"
 
 #include <algorithm>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPainter>
 
@@ -27,6 +29,17 @@ protected:
         QLineEdit::paintEvent(evento);
         QPainter pintor(this);
         PintaMoldura(pintor, size(), kPreto);
+    }
+
+    void inputMethodEvent(QInputMethodEvent *evento) override
+    {
+        if (evento->commitString().isEmpty() || evento->replacementLength() != 0) {
+            QLineEdit::inputMethodEvent(evento);
+            return;
+        }
+        QInputMethodEvent semTexto(evento->preeditString(), evento->attributes());
+        QLineEdit::inputMethodEvent(&semTexto);
+        DigitaComposto(*window(), evento->commitString());
     }
 
     void contextMenuEvent(QContextMenuEvent *evento) override
