@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
+#include <QMenu>
 #include <qpa/qwindowsysteminterface.h>
 #include <QTest>
 
@@ -45,6 +47,23 @@ void Compoe(QWidget *alvo, const QString &previa, const QString &texto)
     evento.setCommitString(texto);
     QApplication::sendEvent(alvo, &evento);
     QCoreApplication::processEvents();
+}
+
+/// Entries of the menu that a right click on a cell brings up, "" if none comes.
+QString Menu(JogoDeTeste &jogo, const QString &naPrancheta)
+{
+    QApplication::clipboard()->setText(naPrancheta);
+    QContextMenuEvent evento(QContextMenuEvent::Mouse, {}, {});
+    QApplication::sendEvent(jogo.form->Janela().focusWidget(), &evento);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QStringList entradas;
+    for (const QAction *entrada : menu != nullptr ? menu->actions() : QList<QAction *>()) {
+        if (entrada->isVisible() && !entrada->isSeparator()) {
+            entradas << entrada->text().section(u'\t', 0, 0).remove(u'&');
+        }
+    }
+    delete menu;
+    return entradas.join(u'|');
 }
 
 } // namespace
@@ -101,6 +120,13 @@ TEST(EntradaLetras, KeepsTheOrderInWhichPlainAndComposedLettersWereTyped)
         QStringLiteral("m"));
     Compoe(t.jogo.form->Janela().focusWidget(), QString(), QStringLiteral("ü"));
     EXPECT_EQ(t.Texto(0) + t.Texto(1), QStringLiteral("MÜ"));
+}
+
+TEST(EntradaLetras, OffersAMenuOnlyWithWhatCanAct)
+{
+    ComItemLongo t;
+    EXPECT_EQ(Menu(t.jogo, {}), QString());
+    EXPECT_EQ(Menu(t.jogo, QStringLiteral("a")), QStringLiteral("Paste"));
 }
 
 TEST(EntradaLetras, LetsAPastedRunOfTheListStand)
