@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
@@ -164,33 +163,6 @@ void Form::Unload()
     }
 }
 
-void Form::Pega()
-{
-    m_moveSistema = windowHandle() != nullptr && windowHandle()->startSystemMove();
-}
-
-void Form::Arrasta(const Mouse &mouse)
-{
-    if (m_aperto != mouse.aperto) {
-        m_aperto = mouse.aperto;
-        m_pegada = mouse.aperto - pos();
-        // Some systems let nobody but themselves move a window.
-        if (!m_moveSistema &&
-            QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
-            Pega();
-        }
-    }
-    if (!m_moveSistema) {
-        move(mouse.global - m_pegada);
-    }
-}
-
-void Form::Solta()
-{
-    m_aperto.reset();
-    m_moveSistema = false;
-}
-
 void Form::SetWindowRgn(const std::function<QRegion(qreal)> &regiao, QRgb chave)
 {
     m_regiao = regiao;
@@ -201,7 +173,7 @@ void Form::SetWindowRgn(const std::function<QRegion(qreal)> &regiao, QRgb chave)
 void Form::Recorta()
 {
     if (m_regiao && windowHandle() != nullptr) {
-        RecortaJanela(*windowHandle(), m_regiao(devicePixelRatioF()));
+        RecortaJanela(*windowHandle(), m_regiao);
     }
 }
 
