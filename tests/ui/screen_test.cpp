@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QBitmap>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTest>
@@ -103,6 +104,9 @@ TEST(RegiaoDaFigura, ComesFromTheDrawingOfTheScreen)
         const QImage coberta = figura.Coberta(kChave).ParaEscala(escala).toImage();
         EXPECT_NE(coberta.pixel(0, 0) & RGB_MASK, kChave & RGB_MASK) << escala;
         EXPECT_EQ(*RegiaoDaFigura(coberta, kChave), QRegion(coberta.rect())) << escala;
+        const QImage vazada = figura.Vazada(kChave).ParaEscala(escala).toImage();
+        const QRegion opaca(QBitmap::fromImage(vazada.createAlphaMask()));
+        EXPECT_EQ(opaca, *RegiaoDaFigura(figura.ParaEscala(escala).toImage(), kChave)) << escala;
     }
 }
 

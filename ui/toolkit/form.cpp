@@ -166,7 +166,8 @@ void Form::Unload()
 void Form::SetWindowRgn(const std::function<QRegion(qreal)> &regiao, QRgb chave)
 {
     m_regiao = regiao;
-    m_pintura = m_picture.Coberta(chave);
+    setAttribute(Qt::WA_TranslucentBackground, JanelasCompostas());
+    m_pintura = JanelasCompostas() ? m_picture.Vazada(chave) : m_picture.Coberta(chave);
     Recorta();
 }
 
