@@ -1,10 +1,10 @@
 // Compiles the question bank: compila_banco SOURCE.tsv OUTPUT.tes
 
+#include "core/files/whole_file.h"
 #include "tools/bank_source.h"
 
 #include <cstdio>
 #include <QFile>
-#include <QSaveFile>
 
 namespace {
 
@@ -23,11 +23,11 @@ int main(int argc, char *argv[])
         return 2;
     }
     const QString origem = QFile::decodeName(argv[1]);
-    QFile entrada(origem);
-    if (!entrada.open(QIODevice::ReadOnly)) {
+    const auto bytes = LeArquivo(origem);
+    if (!bytes || !QFile::exists(origem)) {
         return Recusa(origem, QStringLiteral(" cannot be read"));
     }
-    const FonteBanco fonte = LeFonte(entrada.readAll());
+    const FonteBanco fonte = LeFonte(*bytes);
     for (const QString &falta : fonte.faltas) {
         Recusa(origem, falta);
     }
@@ -35,9 +35,7 @@ int main(int argc, char *argv[])
         return 2;
     }
     const QString destino = QFile::decodeName(argv[2]);
-    QSaveFile saida(destino);
-    if (!saida.open(QIODevice::WriteOnly) || saida.write(CompilaBanco(fonte.entradas)) < 0 ||
-        !saida.commit()) {
+    if (TrocaArquivo(destino, CompilaBanco(fonte.entradas)) != Troca::Feita) {
         return Recusa(destino, QStringLiteral(" cannot be written"));
     }
     return 0;

@@ -206,5 +206,9 @@ int main(int argc, char *argv[])
 #endif
     const QCoreApplication aplicacao(argc, argv);
     const auto opcoes = LeitorOpcoes(QCoreApplication::arguments()).Le();
-    return opcoes ? Executa(*opcoes) : kErro;
+    const int fim = opcoes ? Executa(*opcoes) : kErro;
+    // A full disk may show only now.
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0
+               ? fim
+               : Recusa(QStringLiteral("the puzzles cannot be written"));
 }

@@ -143,3 +143,18 @@ TEST_F(Monta, PrintsEachItemOfEachPuzzleOfTheSeed)
     EXPECT_LE(numeros.captured(3).toDouble(), numeros.captured(4).toDouble());
     EXPECT_LE(numeros.captured(4).toDouble(), numeros.captured(5).toDouble());
 }
+
+#ifdef Q_OS_LINUX
+TEST_F(Monta, SaysWhenItsOutputCannotBeWritten)
+{
+    GravaBanco(BancoAcentuado());
+    QProcess processo;
+    processo.setStandardOutputFile(QStringLiteral("/dev/full"));
+    processo.start(QStringLiteral(QUADRELO_MONTA),
+                   {QStringLiteral("--banco"), m_pasta.filePath(QStringLiteral("João.tes")),
+                    QStringLiteral("--semente"), QStringLiteral("1")});
+    EXPECT_TRUE(processo.waitForFinished());
+    EXPECT_EQ(processo.exitCode(), 2);
+    EXPECT_TRUE(processo.readAllStandardError().startsWith("monta: "));
+}
+#endif

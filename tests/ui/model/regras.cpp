@@ -267,6 +267,8 @@ bool Regras::Alcanca(const Alvo &alvo, const Alvo &real) const
     if (balao && um(u"Picture2 LbHint ImgHintDire ImgHintDire2"_s)) return true;
     if (painel && (alvo.nome == u"Text1" || alvo.nome == u"Pic_q2"))
         return um(u"Picespere Image7 PicUpdate"_s);
+    // Whether the mark is laid already nobody knows.
+    if (painel && alvo.nome == u"Lbt") return um(u"Lbt ImgR"_s);
     // Numbers and the edges of the sheet lie there, too.
     if (alvo.nome == u"Pic_q2") return um(u"Pic_q2 Pic_q1 Form1 LB"_s);
     if (alvo.nome == u"Label3" && alvo.n > 0 && escudo) return um(u"Image4"_s);
