@@ -100,13 +100,13 @@ TEST(SlowBuilder, AgreesWithTheBuilderOnManyBanksAndMemories)
         int sementes;
         std::vector<Lista> listas;
     } casos[] = {
-        {"the game's own bank", BancoDoJogo(), 12, todas},
-        {"5,000 records", RegistrosDe(PalavrasDeSilabas(5000, 2)), 6, todas},
+        {"the game's own bank", BancoDoJogo(), 6, todas},
+        {"5,000 records", RegistrosDe(PalavrasDeSilabas(5000, 2)), 3, todas},
         {"long words", Sorteadas(900, 9, 15, comuns), 3, curtas},
-        {"repeated, empty", Sorteadas(700, 1, 9, comuns, true), 8, todas},
+        {"repeated, empty", Sorteadas(700, 1, 9, comuns, true), 6, todas},
         {"few words", Sorteadas(60, 3, 8, comuns), 3, curtas},
         {"one letter", Sorteadas(60, 2, 15, "A", true), 3, curtas},
-        {"any byte, blanks", Sorteadas(800, 1, 15, bytes, true), 8, todas},
+        {"any byte, blanks", Sorteadas(800, 1, 15, bytes, true), 6, todas},
         {"a single word", RegistrosDe({"", "ABACAXI"}), 3, curtas},
     };
     const int fator = std::max(1, qEnvironmentVariableIntValue("QUADRELO_FATOR"));

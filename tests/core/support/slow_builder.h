@@ -35,6 +35,7 @@ struct ConstrutorLento
     /// One build on an empty board, further along the same stream. True if 26 words stand.
     bool Monta()
     {
+        qtdUsadas = qtdUsadas > 520 ? 520 : qtdUsadas;
         item = {};
         celula = {};
         qtdItens = 0;
@@ -97,19 +98,16 @@ private:
         return livres;
     }
 
-    /// Draws an entry whose word is not used, or 0 for one that is.
-    int Nova()
+    [[nodiscard]] bool JaFoi(int pergunta) const
     {
-        const int k = Pergunta();
-        const QString &palavra = banco[size_t(k)];
-        qtdUsadas = qtdUsadas > 520 ? 520 : qtdUsadas;
+        const QString &palavra = banco[size_t(pergunta)];
         for (size_t u = 0; u <= size_t(qtdUsadas); ++u) {
-            if (usadas[u] == palavra) return 0;
+            if (usadas[u] == palavra) return true;
         }
         for (size_t n = 1; n <= size_t(qtdItens); ++n) {
-            if (item[n].palavra == palavra) return 0;
+            if (item[n].palavra == palavra) return true;
         }
-        return k;
+        return false;
     }
 
     /// False if the word does not fit.
@@ -160,11 +158,12 @@ private:
             if (!((sim && letra != m - 1) || letra == m)) continue;
             for (int tentativas = 2, antes = qtdItens; qtdItens == antes; ++tentativas) {
                 if (tentativas > 200) return false;
-                const int k = Nova();
+                const int k = Pergunta();
                 const QString palavra = banco[size_t(k)];
-                if (k == 0 || (letra == m && palavra.size() < minimoNaUltima)) continue;
+                if (letra == m && palavra.size() < minimoNaUltima) continue;
                 const auto q = static_cast<int>(palavra.indexOf(desce.palavra[letra - 1])) + 1;
-                if (q > 0 && Poe(k, desce.ponto + 26 * (letra - 1) - (q - 1), u'H')) cruzamento = q;
+                if (q == 0 || JaFoi(k)) continue;
+                if (Poe(k, desce.ponto + 26 * (letra - 1) - (q - 1), u'H')) cruzamento = q;
             }
         }
         return true;
@@ -174,11 +173,11 @@ private:
     {
         const Item b = item[size_t(qtdItens)];
         for (int tentativas = 1; tentativas <= 100; ++tentativas) {
-            const int k = Nova();
+            const int k = Pergunta();
             const QString palavra = banco[size_t(k)];
-            if (k == 0 || palavra.size() <= 5) continue;
+            if (palavra.size() <= 5) continue;
             for (int q = 1; q <= palavra.size() && q <= b.palavra.size(); ++q) {
-                if (q == cruzamento || b.palavra[q - 1] != palavra[0]) continue;
+                if (q == cruzamento || b.palavra[q - 1] != palavra[0] || JaFoi(k)) continue;
                 if (Poe(k, b.ponto + q - 1, u'V')) return;
             }
         }
@@ -201,11 +200,10 @@ private:
         const int a = Vazios(i, desce ? u'T' : u'L');
         const int b = Vazios(i, desce ? u'D' : u'R');
         for (int vez = 1; a > 0 && b > 0 && vez <= 10; ++vez) {
-            const int k = Nova();
-            if (k == 0) continue;
+            const int k = Pergunta();
             const QString palavra = banco[size_t(k)];
             const auto pos = static_cast<int>(palavra.indexOf(c.letra)) + 1;
-            if (pos > 0 && pos - 1 < a && palavra.size() - pos < b) {
+            if (pos > 0 && pos - 1 < a && palavra.size() - pos < b && !JaFoi(k)) {
                 return Poe(k, i - (pos - 1) * (desce ? 26 : 1), desce ? u'V' : u'H');
             }
         }
