@@ -36,6 +36,7 @@ TEST(AjustarDpi, PutsEveryControlOnItsPlaceOnTheBitmap)
         const QPoint longe = outro.form->Janela().pos() - normal.form->Janela().pos();
         EXPECT_LE(longe.manhattanLength(), 2) << "off the middle of the screen at " << dpi;
         EXPECT_NEAR(outro.c().Text1(300).Width(), 19, 0.001) << dpi;
+        EXPECT_FLOAT_EQ(outro.c().Picture3.Width(), outro.form->Janela().Width()) << dpi;
         const auto esperado = Lugares(normal.form->Janela());
         const auto lugares = Lugares(outro.form->Janela());
         ASSERT_EQ(lugares.size(), esperado.size());

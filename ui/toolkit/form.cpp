@@ -21,9 +21,16 @@ namespace {
 
 Qt::WindowFlags Bandeiras(Moldura moldura)
 {
-    return moldura == Moldura::Nenhuma ? Qt::Window | Qt::FramelessWindowHint
-                                       : Qt::Dialog | Qt::CustomizeWindowHint |
-                                             Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+    switch (moldura) {
+    case Moldura::Abertura:
+        return Qt::SplashScreen | Qt::FramelessWindowHint;
+    case Moldura::Ferramenta:
+        return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+               Qt::WindowCloseButtonHint;
+    case Moldura::Nenhuma:
+        break;
+    }
+    return Qt::Window | Qt::FramelessWindowHint;
 }
 
 } // namespace

@@ -13,8 +13,9 @@ class QEventLoop;
 
 namespace toolkit {
 
-/// The frame of a form: none (the form is its bitmap), or a tool window's with a title bar.
-enum class Moldura { Nenhuma, Ferramenta };
+/// The frame of a form: none (the form is its bitmap), none and no place in the task bar either, or
+/// a tool window's with a title bar.
+enum class Moldura { Nenhuma, Abertura, Ferramenta };
 
 /// A window of the game. Lengths are in twips at the screen's DPI; there is no frame but a tool
 /// window's, so outer size and client size are the same for the others.

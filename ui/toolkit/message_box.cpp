@@ -1,6 +1,10 @@
 #include "ui/toolkit/message_box.h"
 
+#include "ui/toolkit/picture.h"
+
 #include <QApplication>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -39,6 +43,29 @@ QString Apresentavel(QString texto)
     return curto == texto ? texto : curto + QStringLiteral("…");
 }
 
+/// The game's own icon, sharp at every scale, which those of the style are not; where there is
+/// none, none of the room for it either.
+void PoeIcone(QMessageBox &caixa, Icone icone)
+{
+    if (icone == Icone::Pergunta) {
+        caixa.setIconPixmap(
+            Picture(QStringLiteral("Pergunta")).NoTamanhoDe(caixa.devicePixelRatioF()));
+        return;
+    }
+    auto *grade = qobject_cast<QGridLayout *>(caixa.layout());
+    auto *texto = caixa.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    QLayoutItem *recuo = grade == nullptr ? nullptr : grade->itemAtPosition(0, 0);
+    if (texto == nullptr || recuo == nullptr || recuo->spacerItem() == nullptr) {
+        return;
+    }
+    grade->removeItem(recuo);
+    delete recuo;
+    grade->removeWidget(texto);
+    grade->addWidget(texto, 0, 0, 1, 2);
+    texto->setContentsMargins(0, 0, 0, grade->verticalSpacing());
+    texto->setIndent(0);
+}
+
 QWidget *Dona()
 {
     QWidget *ativa = QApplication::activeWindow();
@@ -54,7 +81,7 @@ Resposta MostraMensagem(const QString &titulo, const PedidoMensagem &pedido)
     // The text may come from outside: it is text and never markup.
     caixa.setTextFormat(Qt::PlainText);
     caixa.setText(Apresentavel(pedido.texto));
-    caixa.setIcon(pedido.icone == Icone::Pergunta ? QMessageBox::Question : QMessageBox::NoIcon);
+    PoeIcone(caixa, pedido.icone);
 
     const auto opcoes = Opcoes(pedido.botoes);
     std::vector<QPushButton *> teclas;

@@ -74,6 +74,14 @@ const QPixmap &Picture::ParaEscala(qreal escala) const
     return desenhos[k];
 }
 
+QPixmap Picture::NoTamanhoDe(qreal escala) const
+{
+    QPixmap desenho = ParaEscala(escala).scaled((QSizeF(Tamanho()) * escala).toSize(),
+                                                Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    desenho.setDevicePixelRatio(escala);
+    return desenho;
+}
+
 QCursor Ponteiro(const Picture &figura, QPoint ponta)
 {
     return QCursor(figura.ParaEscala(1), ponta.x(), ponta.y());

@@ -32,6 +32,8 @@ public:
     /// The drawing that is sharp on a screen of `escala` device pixels to the pixel: the smallest
     /// that is large enough. Its devicePixelRatio is its own scale.
     [[nodiscard]] const QPixmap &ParaEscala(qreal escala) const;
+    /// That drawing brought to exactly `escala`, for those who show it without smoothing.
+    [[nodiscard]] QPixmap NoTamanhoDe(qreal escala) const;
 
 private:
     struct Conteudo

@@ -26,7 +26,14 @@ QString SemControles(QString texto)
 class TextBox::Campo final : public QLineEdit, public WidgetDeControle
 {
 public:
-    Campo(QWidget *pai, TextBox &dono) : QLineEdit(pai), WidgetDeControle(dono) { setFrame(false); }
+    Campo(QWidget *pai, TextBox &dono) : QLineEdit(pai), WidgetDeControle(dono)
+    {
+        setFrame(false);
+        // The ground that the line edit paints by itself knows nothing of the frame.
+        QPalette cores = palette();
+        cores.setColor(QPalette::Base, Qt::transparent);
+        setPalette(cores);
+    }
 
     bool celula = false;
 
@@ -36,9 +43,12 @@ public:
 protected:
     void paintEvent(QPaintEvent *evento) override
     {
+        QPainter fundo(this);
+        fundo.fillRect(AreaDaMoldura(fundo, size()), Dono().BackColor());
+        fundo.end();
         QLineEdit::paintEvent(evento);
-        QPainter pintor(this);
-        PintaMoldura(pintor, size(), kPreto);
+        QPainter moldura(this);
+        PintaMoldura(moldura, size(), kPreto);
     }
 
     void contextMenuEvent(QContextMenuEvent *evento) override
@@ -137,7 +147,6 @@ void TextBox::CopiaDe(const TextBox &molde)
 void TextBox::MostraAspecto()
 {
     QPalette cores = m_campo->palette();
-    cores.setColor(QPalette::Base, BackColor());
     cores.setColor(QPalette::Text, ForeColor());
     if (cores != m_campo->palette()) {
         m_campo->setPalette(cores);
