@@ -71,8 +71,9 @@ TEST_F(RegistryAccess, NamesOneKeyByManyPathsAndReachesEachRootByBothNames)
         // A long root name is turned into the short one inside a sub-path too.
         EXPECT_NE(r.CreateKey(longo.toLower() + u"\\x"_s + longo), 0);
         ChaveRegistro chave = 0;
-        EXPECT_EQ(armazem.RegOpenKeyA(kPrimeiraRaiz + ChaveRegistro(n), ("x" + curto.toLatin1()), chave),
-                  CodigoRegistro::Sucesso);
+        EXPECT_EQ(
+            armazem.RegOpenKeyA(kPrimeiraRaiz + ChaveRegistro(n), ("x" + curto.toLatin1()), chave),
+            CodigoRegistro::Sucesso);
         armazem.RegCloseKey(chave);
         EXPECT_EQ(RaizesPorExtenso(curto.toLower() + u"\\HKx"_s + curto),
                   longo + u"\\HKx"_s + longo);

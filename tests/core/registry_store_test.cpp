@@ -171,8 +171,13 @@ TEST(RegistroPortatil, ReadsBackItsFileAndWhatIsLeftOfADamagedOne)
         RegistroPortatil armazem(pasta.Caminho("João.reg"));
         Grava(armazem, "a\xE7\xE3o\\b", QByteArray(), QByteArray("\0\n \xFF", 4));
         Grava(armazem, "b", "com brancos", QByteArray());
+        ChaveRegistro b = 0;
+        armazem.RegOpenKeyA(kUsuario, "b", b);
+        armazem.RegSetValueExA(b, "sai", 7, "1");
         EXPECT_TRUE(armazem.Salva());
-        Grava(armazem, "b", "v", "22"); // saved at the end
+        armazem.RegDeleteValueA(b, "sai");
+        EXPECT_TRUE(armazem.Salva());
+        armazem.RegSetValueExA(b, "v", 7, "22"); // saved at the end
         antes = Conteudo(armazem);
         RegistroPortatil semPasta(pasta.Caminho("falta/x"));
         Grava(semPasta, "a", "v", "1");

@@ -89,13 +89,10 @@ TEST(SharedRoutines, TurnTextsAndNumbersIntoOthers)
 
 TEST(MaiorVersion, ComparesTheScoresAsText)
 {
-    const QString locais = u"1.5.1 1.5.1 1.5.1 2.0.0 1.5.1 1.5.1 1.5.1"_s;
-    const QString remotas = u"1.6.0 1.5.1 1.10.0 1.10.0 10.0.0 2 1.5.2b"_s;
-    const QString maiores = u"+-+--++"_s;
-    for (qsizetype k = 0; k < maiores.size(); ++k) {
-        const QString remota = remotas.split(u' ')[k];
-        EXPECT_EQ(MaiorVersion(locais.split(u' ')[k], remota), maiores[k] == u'+')
-            << remota.toStdString();
+    for (const QString &caso :
+         {u"1.5.1 < 1.6.0"_s, u"1.5.1 > 1.5.1"_s, u"1.5.1 < 1.10.0"_s, u"2.0.0 > 1.10.0"_s,
+          u"1.5.1 > 10.0.0"_s, u"1.5.1 < 2"_s, u"1.5.1 < 1.5.2b"_s, u"1.5.1 > "_s}) {
+        const QStringList partes = caso.split(u' ');
+        EXPECT_EQ(MaiorVersion(partes[0], partes[2]), partes[1] == u"<") << qPrintable(caso);
     }
-    EXPECT_FALSE(MaiorVersion(u"1.5.1"_s, {}));
 }

@@ -108,6 +108,7 @@ TEST(PerfilDoWindows, ReadsFilesThatAPlayerHasEditedAsTheGameDoes)
     for (size_t k = 0; k < std::size(casos); ++k) {
         // A name of its own for each: Windows remembers files by their names.
         const QByteArray nome = QByteArray::number(k) + ".ini";
-        EXPECT_EQ(Compara(pasta.Arquivo(nome, casos[k].first)), casos[k].second) << nome.constData();
+        EXPECT_EQ(Compara(pasta.Arquivo(nome, casos[k].first)), casos[k].second)
+            << nome.constData();
     }
 }
