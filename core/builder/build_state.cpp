@@ -4,16 +4,14 @@
 
 bool Montagem::JaFoi(int k)
 {
-    return d.busca == BuscaUsadas::Indice
-               ? m_marcas.JaFoi(k)
-               : jafoi(d.banco.BancoPalavra[static_cast<size_t>(k)], d.memoria, d.tabuleiro);
+    return d.busca == BuscaUsadas::Indice ? m_marcas.JaFoi(k)
+                                          : jafoi(d.banco.BancoPalavra[k], d.memoria, d.tabuleiro);
 }
 
 void Montagem::Poe(int k, int ponto, QChar sentido)
 {
-    const auto entrada = static_cast<size_t>(k);
     Carrega_Palavra(d.tabuleiro, d.exibicao,
-                    {d.banco.BancoPalavra[entrada], ponto, sentido, d.banco.BancoDica[entrada]});
+                    {d.banco.BancoPalavra[k], ponto, sentido, d.banco.BancoDica[k]});
     m_marcas.Marca(k);
 }
 
@@ -25,12 +23,12 @@ const std::vector<Travessia> &Montagem::Travessias()
     m_itensDasTravessias = d.tabuleiro.QtdItens;
     m_travessias.clear();
     for (int i = 1; i <= kCelulas; ++i) {
-        if (!d.tabuleiro.Ocupada[static_cast<size_t>(i)]) {
+        if (!d.tabuleiro.Ocupada[i]) {
             continue;
         }
         // A cell where two words cross is offered the direction across, and finds a neighbour in
         // the way.
-        const CelulaQuadrado &celula = d.tabuleiro.Quadrado[static_cast<size_t>(i)];
+        const CelulaQuadrado &celula = d.tabuleiro.Quadrado[i];
         const bool desce = celula.Sentido == u'H';
         const int antes = Vazios(d.tabuleiro, i, desce ? u'T' : u'L');
         const int depois = antes > 0 ? Vazios(d.tabuleiro, i, desce ? u'D' : u'R') : 0;

@@ -74,10 +74,7 @@ private:
     int PontoDescida(int k) const;
     bool Resgata();
 
-    [[nodiscard]] const RegistroItem &Item(int n) const
-    {
-        return m_tabuleiro.ItemPalavra[static_cast<size_t>(n)];
-    }
+    [[nodiscard]] const RegistroItem &Item(int n) const { return m_tabuleiro.ItemPalavra[n]; }
     [[nodiscard]] int Comprimento(int k) const { return m_montagem.d.indice.Comprimento(k); }
     bool Chance(int p) { return Sorteia(m_montagem.d.acaso, p); }
 
@@ -219,7 +216,7 @@ int Condutor::PontoDescida(int k) const
 {
     const RegistroItem &ultima = Item(m_tabuleiro.QtdItens);
     const int cruzamento = ColunaDe(Item(1).Ponto) - ColunaDe(ultima.Ponto) + 1;
-    const QChar primeira = m_montagem.d.banco.BancoPalavra[static_cast<size_t>(k)][0];
+    const QChar primeira = m_montagem.d.banco.BancoPalavra[k][0];
     const int fim = qMin(Comprimento(k), static_cast<int>(ultima.Palavra.size()));
     for (int q = 1; q <= fim; ++q) {
         const int ponto = ultima.Ponto + q - 1;

@@ -83,12 +83,12 @@ bool GravaLugar(const QString &arquivo, int p, const QString &nome, int t)
     return gravou && entrou;
 }
 
-std::array<LinhaRanking, kLugares + 1> LeRanking(const QString &arquivo)
+TabelaDe<LinhaRanking, kLugares> LeRanking(const QString &arquivo)
 {
     const LoteIni lote(arquivo);
-    std::array<LinhaRanking, kLugares + 1> linhas;
+    TabelaDe<LinhaRanking, kLugares> linhas;
     for (int p = 1; p <= kLugares; ++p) {
-        linhas[static_cast<size_t>(p)] = LeLinha(lote, p);
+        linhas[p] = LeLinha(lote, p);
     }
     return linhas;
 }

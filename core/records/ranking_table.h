@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include "core/board/numbered_table.h"
 #include <QString>
 
 /// The five best times with their players' names, kept in an INI file: sections Ranking1 (the best)
@@ -40,4 +40,4 @@ int ProcuraLugar(const QString &arquivo, int t);
 bool GravaLugar(const QString &arquivo, int p, const QString &nome, int t);
 
 /// The rows of places 1 to 5; entry 0 is unused.
-std::array<LinhaRanking, kLugares + 1> LeRanking(const QString &arquivo);
+TabelaDe<LinhaRanking, kLugares> LeRanking(const QString &arquivo);

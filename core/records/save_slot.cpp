@@ -27,7 +27,7 @@ struct CelulaDoSlot
     bool emPe = false;
 };
 
-using GradeDoSlot = std::array<CelulaDoSlot, kCelulas + 1>;
+using GradeDoSlot = TabelaDe<CelulaDoSlot, kCelulas>;
 
 std::optional<bool> LeBooleano(const QString &texto)
 {
@@ -88,7 +88,7 @@ std::optional<FalhaDoSlot> LeItem(const LoteIni &lote, const QString &secao, int
 std::optional<FalhaDoSlot> DeitaItem(const RegistroItem &item, GradeDoSlot &grade)
 {
     for (int k = 0; k < item.Palavra.size(); ++k) {
-        auto &celula = grade[static_cast<size_t>(CelulaDaLetra(item, k))];
+        auto &celula = grade[CelulaDaLetra(item, k)];
         bool &mesmoSentido = item.Sentido == u'H' ? celula.deitada : celula.emPe;
         if (mesmoSentido) {
             return FalhaDoSlot::Sobreposicao;
@@ -127,7 +127,7 @@ bool SalvaSlot(const QString &arquivo, int n, const QString &nome, const Tabulei
         const auto secao = Secao(n);
         lote.Escreve(secao, QStringLiteral("Nome"), nome);
         for (int i = 1; i <= kItens; ++i) {
-            EscreveItem(lote, secao, i, tabuleiro.ItemPalavra[static_cast<size_t>(i)]);
+            EscreveItem(lote, secao, i, tabuleiro.ItemPalavra[i]);
         }
         lote.Escreve(secao, QStringLiteral("Tempo"), tempo);
     });
@@ -140,7 +140,7 @@ std::variant<JogoSalvo, FalhaDoSlot> LeSlot(const QString &arquivo, int n)
     JogoSalvo jogo;
     GradeDoSlot grade;
     for (int i = 1; i <= kItens; ++i) {
-        auto &item = jogo.itens[static_cast<size_t>(i)];
+        auto &item = jogo.itens[i];
         auto falha = LeItem(lote, Secao(n), i, item);
         if (!falha) {
             falha = DeitaItem(item, grade);
@@ -163,7 +163,7 @@ NomesSalvos NomesDosSlots(const QString &arquivo)
     NomesSalvos nomes;
     nomes.lidos = lote.Legivel();
     for (int n = 1; n <= kSlots; ++n) {
-        nomes.nome[static_cast<size_t>(n)] = lote.Le(Secao(n), QStringLiteral("Nome"));
+        nomes.nome[n] = lote.Le(Secao(n), QStringLiteral("Nome"));
     }
     return nomes;
 }

@@ -114,6 +114,8 @@ TEST_F(SaveLoad, SavesTheGameWithItsTimeWhileTheBoardIsInView)
     SalvaComo(3, QStringLiteral("Zé & Ção"));
 
     EXPECT_FALSE(algumDialogo);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(jogo.c().Text1(jogo.d().estado.Focus).TemFoco()) << "the keyboard is elsewhere";
     EXPECT_EQ(NomeNoSlot(3), QStringLiteral("Zé & Ção"));
     const JogoSalvo salvo = LeSalvo(3);
     EXPECT_NEAR(salvo.tempo, 300.25, 0.01);
@@ -144,6 +146,7 @@ TEST_F(SaveLoad, TakesNamesOfFourteenCharactersInWhateverWay)
         QInputMethodEvent evento;
         evento.setCommitString(QStringLiteral("ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛ"));
         QCoreApplication::sendEvent(form.focusWidget(), &evento);
+        QCoreApplication::processEvents();
     };
     const std::array casos = {
         Caso{"typed", [](auto &form) { Digita(form, QStringLiteral("abcdefghijklmnop")); },

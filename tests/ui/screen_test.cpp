@@ -2,13 +2,18 @@
 
 #include "ui/forms/control_table.h"
 #include "ui/forms/splash.h"
+#include "ui/toolkit/message_box.h"
 #include "ui/window/center_form.h"
 #include "ui/window/dpi_adjuster.h"
 #include "ui/window/window_shape.h"
 
 #include <gtest/gtest.h>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QBitmap>
+#include <QKeyEvent>
 #include <QScreen>
+#include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -100,6 +105,9 @@ TEST(RegiaoDaFigura, ComesFromTheDrawingOfTheScreen)
         const QImage coberta = figura.Coberta(kChave).ParaEscala(escala).toImage();
         EXPECT_NE(coberta.pixel(0, 0) & RGB_MASK, kChave & RGB_MASK) << escala;
         EXPECT_EQ(*RegiaoDaFigura(coberta, kChave), QRegion(coberta.rect())) << escala;
+        const QImage vazada = figura.Vazada(kChave).ParaEscala(escala).toImage();
+        const QRegion opaca(QBitmap::fromImage(vazada.createAlphaMask()));
+        EXPECT_EQ(opaca, *RegiaoDaFigura(figura.ParaEscala(escala).toImage(), kChave)) << escala;
     }
 }
 
@@ -115,4 +123,24 @@ TEST(CentralizaForm, KeepsTheTitleStripOnAScreenThatIsTooSmall)
                  static_cast<float>(tela.height() + 100) * 15);
     CentralizaForm(form);
     EXPECT_EQ(form.pos(), tela.topLeft());
+}
+
+TEST(MostraMensagem, GivesTheKeyboardBackAndIsNotAnsweredByAKeyHeldDown)
+{
+    toolkit::Form dona(toolkit::Moldura::Nenhuma, toolkit::kDpiPadrao);
+    dona.SetSize(3000, 1500);
+    dona.Show();
+    QCoreApplication::processEvents();
+    bool aberta = false;
+    QTimer::singleShot(0, &dona, [&aberta] {
+        QWidget *caixa = QApplication::activeModalWidget();
+        QKeyEvent repetida(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(caixa->focusWidget(), &repetida);
+        aberta = caixa->isVisible();
+        QTest::keyClick(caixa->focusWidget(), Qt::Key_Return);
+    });
+    EXPECT_EQ(toolkit::MostraMensagem({}, {QStringLiteral("?"), Botoes::SimNao}), Resposta::Sim);
+    EXPECT_TRUE(aberta);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(dona.isActiveWindow());
 }

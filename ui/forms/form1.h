@@ -4,8 +4,6 @@
 #include "ui/forms/control_table.h"
 #include "ui/toolkit/control_array.h"
 
-#include <array>
-
 namespace forms {
 
 /// The main form's definition.
@@ -66,7 +64,7 @@ struct ControlesForm1
     /// Writes the words of a new puzzle to the memory, once.
     toolkit::Timer &Timer4;
     /// The six menu entries: Novo Jogo, Reiniciar, Abrir, Salvar, Ranking, Sair.
-    std::array<toolkit::Label *, 6> Label3;
+    TabelaDe<toolkit::Label *, 5> Label3;
 
     /// Letter boxes of the cells, 1 to kCelulas.
     toolkit::ControlArray<toolkit::TextBox> Text1;

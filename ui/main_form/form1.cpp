@@ -145,7 +145,7 @@ void Form1::LigaBalao()
 void Form1::LigaComandos()
 {
     for (int k = 0; k < static_cast<int>(m_c.Label3.size()); ++k) {
-        toolkit::Label &entrada = *m_c.Label3[static_cast<size_t>(k)];
+        toolkit::Label &entrada = *m_c.Label3[k];
         entrada.Click = [this, k] { m_comandos.Label3_Click(k); };
         entrada.MouseDown = [this, k](const toolkit::Mouse &) { m_comandos.Label3_MouseDown(k); };
         entrada.MouseUp = [this, k](const toolkit::Mouse &) { m_comandos.Label3_MouseUp(k); };

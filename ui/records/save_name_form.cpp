@@ -67,7 +67,7 @@ void FrmSalvar2::SalvarJogo(int n, const QString &NomeJogo)
         return;
     }
     const QString arquivo = Caminho(d.valores.PastaDados, kArquivoJogos);
-    if (m_poupaOcupado && !NomesDosSlots(arquivo).nome[static_cast<size_t>(n)].isEmpty()) {
+    if (m_poupaOcupado && !NomesDosSlots(arquivo).nome[n].isEmpty()) {
         return;
     }
     const double tempo = std::clamp(d.ambiente.Agora() - d.valores.HoraInicio, 0.0, kMaximoDoTempo);

@@ -1,7 +1,10 @@
 #include "ui/toolkit/message_box.h"
 
+#include "ui/toolkit/form.h"
+#include "ui/toolkit/keyboard.h"
 #include "ui/toolkit/picture.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
@@ -66,17 +69,59 @@ void PoeIcone(QMessageBox &caixa, Icone icone)
     texto->setIndent(0);
 }
 
+/// The window that the player has before him. The one that was active may have gone, and none is
+/// where the keyboard is elsewhere.
 QWidget *Dona()
 {
-    QWidget *ativa = QApplication::activeWindow();
-    return ativa != nullptr ? ativa : QApplication::activeModalWidget();
+    if (QWidget *ativa = JanelaVisivel(QApplication::activeWindow())) {
+        return ativa;
+    }
+    if (QWidget *modal = JanelaVisivel(QApplication::activeModalWidget())) {
+        return modal;
+    }
+    const auto janelas = QApplication::topLevelWidgets();
+    const auto achada = std::find_if(janelas.begin(), janelas.end(), [](const QWidget *janela) {
+        return janela->isVisible() && dynamic_cast<const Form *>(janela) != nullptr;
+    });
+    return achada == janelas.end() ? nullptr : *achada;
 }
+
+/// A message box that gives the keyboard back, and that a key held down does not answer: held from
+/// one window to the next, it would go through both.
+class Caixa final : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+    QPushButton *Botao(const QString &texto)
+    {
+        // Roles decide the order of buttons on some systems; one role keeps the order given.
+        QPushButton *botao = addButton(texto, QMessageBox::ActionRole);
+        botao->installEventFilter(this);
+        return botao;
+    }
+
+protected:
+    bool eventFilter(QObject *alvo, QEvent *evento) override
+    {
+        return TeclaRepetida(*evento) || QMessageBox::eventFilter(alvo, evento);
+    }
+    bool event(QEvent *evento) override
+    {
+        return TeclaRepetida(*evento) || QMessageBox::event(evento);
+    }
+    void hideEvent(QHideEvent *evento) override
+    {
+        QMessageBox::hideEvent(evento);
+        DevolveTeclado(*this);
+    }
+};
 
 } // namespace
 
 Resposta MostraMensagem(const QString &titulo, const PedidoMensagem &pedido)
 {
-    QMessageBox caixa(Dona());
+    Caixa caixa(Dona());
     caixa.setWindowTitle(titulo);
     // The text may come from outside: it is text and never markup.
     caixa.setTextFormat(Qt::PlainText);
@@ -86,8 +131,7 @@ Resposta MostraMensagem(const QString &titulo, const PedidoMensagem &pedido)
     const auto opcoes = Opcoes(pedido.botoes);
     std::vector<QPushButton *> teclas;
     for (const Opcao &opcao : opcoes) {
-        // Roles decide the order of buttons on some systems; one role keeps the order given.
-        teclas.push_back(caixa.addButton(opcao.texto, QMessageBox::ActionRole));
+        teclas.push_back(caixa.Botao(opcao.texto));
     }
     caixa.setDefaultButton(teclas.front());
     caixa.setEscapeButton(teclas.back());

@@ -1,11 +1,14 @@
 #include "ui/toolkit/text_box.h"
 
+#include "ui/toolkit/keyboard.h"
 #include "ui/toolkit/thin_frame.h"
 
 #include <algorithm>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 
 namespace toolkit {
@@ -51,15 +54,23 @@ protected:
         PintaMoldura(moldura, size(), kPreto);
     }
 
+    void inputMethodEvent(QInputMethodEvent *evento) override
+    {
+        if (evento->commitString().isEmpty() || evento->replacementLength() != 0) {
+            QLineEdit::inputMethodEvent(evento);
+            return;
+        }
+        QInputMethodEvent semTexto(evento->preeditString(), evento->attributes());
+        QLineEdit::inputMethodEvent(&semTexto);
+        DigitaComposto(*window(), evento->commitString());
+    }
+
     void contextMenuEvent(QContextMenuEvent *evento) override
     {
         // A press on a cell has just moved the cursor: the menu must act where the cursor is.
-        auto *foco = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-        if (!celula || foco == this) {
-            QLineEdit::contextMenuEvent(evento);
-        } else if (foco != nullptr) {
-            QContextMenuEvent copia(evento->reason(), foco->rect().center(), evento->globalPos());
-            QApplication::sendEvent(foco, &copia);
+        auto *foco = celula ? qobject_cast<QLineEdit *>(QApplication::focusWidget()) : this;
+        if (foco != nullptr) {
+            MostraMenu(*foco, evento->globalPos());
         }
     }
 
@@ -70,6 +81,21 @@ protected:
         } else {
             evento->ignore();
         }
+    }
+
+private:
+    /// The system's menu with those of its entries that can act; none where there are none.
+    static void MostraMenu(QLineEdit &campo, QPoint lugar)
+    {
+        QMenu *menu = campo.createStandardContextMenu();
+        bool age = false;
+        for (QAction *entrada : menu->actions()) {
+            const bool serve = entrada->isEnabled() && !entrada->isSeparator();
+            entrada->setVisible(serve || entrada->isSeparator());
+            age = age || serve;
+        }
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        age ? menu->popup(lugar) : menu->deleteLater();
     }
 };
 
