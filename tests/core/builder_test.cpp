@@ -16,7 +16,7 @@ struct Mesa final : ExibicaoMontagem
 {
     void MostraCelula(int i) override
     {
-        const CelulaQuadrado &c = tabuleiro.Quadrado.at(size_t(i));
+        const CelulaQuadrado &c = tabuleiro.Quadrado[i];
         linhas << u"%1%2%3%4"_s.arg(i).arg(c.Letra).arg(c.Itens, c.Fixa ? u"*"_s : QString());
     }
     void MostraSombra(int i) override { linhas << u"shadow %1"_s.arg(i); }
@@ -102,7 +102,7 @@ TEST(FillDriver, MakesTheSamePuzzlesOfTheSameSeedsForEver)
     for (const auto &[semente, esperado] : jogos) {
         AcasoMersenne acaso(semente);
         QStringList itens{QString::number(oficina.Monta(acaso))};
-        for (size_t n = 1; n <= size_t{kItens}; ++n) {
+        for (int n = 1; n <= kItens; ++n) {
             const RegistroItem &item = oficina.tabuleiro.ItemPalavra[n];
             itens << item.Sentido + QString::number(item.Ponto) + item.Palavra;
         }

@@ -12,7 +12,7 @@ Tabuleiro Jogo(int numero, int itens = kItens)
 {
     Tabuleiro tabuleiro;
     tabuleiro.QtdItens = itens;
-    for (size_t n = 1; n <= kItens; ++n) {
+    for (int n = 1; n <= kItens; ++n) {
         tabuleiro.ItemPalavra[n].Palavra = u"J%1I%2"_s.arg(numero).arg(n);
     }
     return tabuleiro;
@@ -36,7 +36,7 @@ TEST(Usadas, RememberTwentyGamesNewestFirstInTheFileAndWithoutOne)
         EXPECT_EQ(memoria.PalavrasUsadas, semArquivo.PalavrasUsadas);
         EXPECT_EQ(memoria.QtdUsadas, semArquivo.QtdUsadas);
     }
-    const std::pair<size_t, QString> palavras[] = {
+    const std::pair<int, QString> palavras[] = {
         {0, {}}, {3, u"J22I3"_s}, {4, {}}, {27, u"J21I1"_s}, {520, u"J3I26"_s}};
     for (const auto &[k, palavra] : palavras) {
         EXPECT_EQ(memoria.PalavrasUsadas[k], palavra) << k;

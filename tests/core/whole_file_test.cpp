@@ -78,10 +78,7 @@ TEST(LeArquivo, TakesOnlyAMissingFileForAnEmptyOne)
     QDir(pasta.Caminho("")).mkdir(u"pasta"_s);
     EXPECT_EQ(LeArquivo(pasta.Caminho("falta")), QByteArray());
     EXPECT_EQ(LeArquivo(pasta.Arquivo("a", "abc")), "abc");
-    EXPECT_EQ(LeArquivo(pasta.Arquivo("grande", ComTamanho(kMaximoDoArquivo))),
-              ComTamanho(kMaximoDoArquivo));
     EXPECT_FALSE(LeArquivo(pasta.Caminho("pasta")));
-    EXPECT_FALSE(LeArquivo(pasta.Arquivo("enorme", ComTamanho(kMaximoDoArquivo + 1))));
     EXPECT_FALSE(LoteIni(pasta.Caminho("pasta")).Legivel());
 }
 
@@ -115,6 +112,7 @@ TEST(TravaDeArquivo, KeepsWritersApartForAMomentAndIsHarmlessWhereItCannotBe)
         QElapsedTimer relogio;
         relogio.start();
         EXPECT_TRUE(Escreve(arquivo, u"1"_s)) << "behind a writer that hangs";
+        EXPECT_GT(relogio.elapsed(), 500);
         EXPECT_LT(relogio.elapsed(), 5'000);
     }
     EXPECT_EQ(pasta.Lista(), QStringList{u"x.ini"_s});
