@@ -47,24 +47,16 @@ void ComparaMesas(const Tabuleiro &tabuleiro, const ConstrutorLento &lento)
     }
 }
 
-/// `quantas` words of `menor` to `maior` letters; with `repetidas`, of each hundred ten are empty
-/// and about forty stand there already.
-QByteArray Sorteadas(int quantas, int menor, int maior, const QByteArray &letras,
-                     bool repetidas = false)
+/// Words with others behind them that are empty, repeated, or one letter again and again.
+std::vector<QByteArray> Variadas(int quantas)
 {
-    std::mt19937_64 gerador(7);
-    const auto ate = [&](qsizetype n) { return qsizetype(gerador() % std::uint64_t(n)); };
     std::vector<QByteArray> palavras;
-    while (palavras.size() < size_t(quantas)) {
-        const auto sorte = repetidas ? ate(100) : 50;
-        QByteArray nova;
-        for (auto n = menor + ate(maior - menor + 1); n > 0 && sorte < 90; --n) {
-            nova += letras[ate(letras.size())];
-        }
-        const bool velha = sorte < 40 && !palavras.empty();
-        palavras.push_back(velha ? palavras[size_t(ate(qsizetype(palavras.size())))] : nova);
+    for (const QByteArray &palavra : PalavrasDeSilabas(quantas, 4)) {
+        palavras.insert(palavras.end(),
+                        {palavra, "", palavras.empty() ? "A" : palavras[palavras.size() / 3],
+                         QByteArray(palavra.size() - 2, 'A')});
     }
-    return RegistrosDe(palavras);
+    return palavras;
 }
 
 } // namespace
@@ -73,11 +65,6 @@ TEST(SlowBuilder, AgreesWithTheBuilderOnManyBanksAndMemories)
 {
     const std::vector todas{Vazia, Parte, Cheia, ComFuros};
     const std::vector curtas{Vazia, Parte};
-    const QByteArray comuns("AAAAEEEEIIIOOOOUBCDFGLMNPRRSSTTV");
-    QByteArray bytes(400, 'a');
-    for (int b = 0; b < 256; ++b) {
-        bytes += QByteArray(b == 'A' || b == 0xC3 ? 300 : 1, static_cast<char>(b));
-    }
     const struct
     {
         const char *nome;
@@ -87,11 +74,13 @@ TEST(SlowBuilder, AgreesWithTheBuilderOnManyBanksAndMemories)
     } casos[] = {
         {"a bank like the game's", RegistrosDe(PalavrasDeSilabas(2600, 1)), 6, todas},
         {"5,000 records", RegistrosDe(PalavrasDeSilabas(5000, 2)), 3, todas},
-        {"long words", Sorteadas(900, 9, 15, comuns), 3, curtas},
-        {"repeated, empty", Sorteadas(700, 1, 9, comuns, true), 6, todas},
-        {"few words", Sorteadas(60, 3, 8, comuns), 3, curtas},
-        {"one letter", Sorteadas(60, 2, 15, "A", true), 3, curtas},
-        {"any byte, blanks", Sorteadas(800, 1, 15, bytes, true), 6, todas},
+        {"long words", RegistrosDe(PalavrasDeSilabas(900, 3, {0, 0, 0, 0, 0, 0, 1, 1, 1, 1})), 3,
+         curtas},
+        {"repeated, empty, one letter", RegistrosDe(Variadas(250)), 6, todas},
+        {"few words", RegistrosDe(PalavrasDeSilabas(60, 5)), 3, curtas},
+        {"any byte, blanks",
+         RegistrosDe(Variadas(300)).replace('O', '\xC3').replace('U', ' ').replace('I', '\0'), 6,
+         todas},
         {"a single word", RegistrosDe({"", "ABACAXI"}), 3, curtas},
     };
     const int fator = std::max(1, qEnvironmentVariableIntValue("QUADRELO_FATOR"));

@@ -10,27 +10,14 @@ void Estraga(QByteArray &dados, const Alvo &alvo, Dado &dado)
     const auto lugar = [&] { return qsizetype(Lanca(dado, size_t(dados.size()) + 1)); };
     const qsizetype posicao = lugar();
     const auto tamanho = static_cast<qsizetype>(Lanca(dado, 40));
-    switch (Lanca(dado, 6)) {
-    case 0:
-        dados.insert(posicao, alvo.pedacos[Lanca(dado, alvo.pedacos.size())]);
-        break;
-    case 1:
-        dados.replace(posicao, tamanho, alvo.pedacos[Lanca(dado, alvo.pedacos.size())]);
-        break;
-    case 2:
-        dados.remove(posicao, tamanho);
-        break;
-    case 3: // a stretch taken from here or from elsewhere
-        dados.insert(posicao, dados.mid(Lanca(dado, 2) == 0 ? posicao : lugar(), tamanho));
-        break;
-    case 4:
-        dados.replace(posicao, 1, QByteArray(1, static_cast<char>(Lanca(dado, 256))));
-        break;
-    default: // cut off, but seldom: all that stands behind is lost to the reader
-        dados.truncate(Lanca(dado, 8) == 0 ? posicao : dados.size());
-        break;
-    }
-    dados.truncate(1 << 16);
+    const QByteArray novos[] = {alvo.pedacos[Lanca(dado, alvo.pedacos.size())],
+                                QByteArray(1, static_cast<char>(Lanca(dado, 256))),
+                                dados.mid(posicao, tamanho),
+                                dados.mid(lugar(), tamanho),
+                                {}};
+    dados.replace(posicao, Lanca(dado, 2) == 0 ? 0 : tamanho, novos[Lanca(dado, 5)]);
+    // Cut off, but seldom: all that stands behind is lost to the reader.
+    dados.truncate(Lanca(dado, 40) == 0 ? posicao : qMin(dados.size(), qsizetype{1} << 16));
 }
 
 } // namespace
