@@ -5,7 +5,7 @@
 // and is not: one entry a line, "#" begins a comment; a pair is written WORD/WORD. --so-regras
 // leaves the spelling out, for a machine without hunspell.
 
-#include "tools/bank_source.h"
+#include "tools/house_rules.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "support/sample_banks.h"
 #include "support/slow_builder.h"
-#include "tools/bank_source.h"
+#include "tools/house_rules.h"
 #include <memory>
 #include <QFile>
 

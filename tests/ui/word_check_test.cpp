@@ -1,6 +1,6 @@
 #include "tests/ui/support/test_game.h"
 
-#include "tools/bank_source.h"
+#include "tools/house_rules.h"
 #include <gtest/gtest.h>
 
 namespace {
