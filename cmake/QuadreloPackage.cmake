@@ -29,7 +29,10 @@ endif()
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 set(lugar Quadrelo)
 install(TARGETS quadrelo RUNTIME DESTINATION ${lugar})
-install(FILES ${QUADRELO_FOLDER}/Perguntas.tes ${sons_da_pasta} LEIA-ME.md DESTINATION ${lugar})
+install(FILES ${QUADRELO_FOLDER}/Perguntas.tes ${sons_da_pasta} LEIA-ME.md PROFESSORES.md DESTINATION ${lugar})
+# For those who make banks of their own.
+install(TARGETS compila_banco monta RUNTIME DESTINATION ${lugar}/ferramentas)
+install(FILES assets/exemplo/corpo-humano.csv DESTINATION ${lugar}/ferramentas)
 install(FILES docs/tabuleiro.png docs/balao.png DESTINATION ${lugar}/docs)
 install(DIRECTORY DESTINATION ${lugar}/Dados)
 if(QUADRELO_QM)
@@ -41,7 +44,9 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   # The name of the menu entry is how a desktop knows whose window it sees.
   set(QUADRELO_ID example.quadrelo.Quadrelo)
   target_compile_definitions(quadrelo PRIVATE QUADRELO_ID="${QUADRELO_ID}")
-  target_link_options(quadrelo PRIVATE $<$<CONFIG:Release>:-s>)
+  foreach(programa quadrelo compila_banco monta)
+    target_link_options(${programa} PRIVATE $<$<CONFIG:Release>:-s>)
+  endforeach()
 
   set(QUADRELO_FICHA ${PROJECT_BINARY_DIR}/generated/${QUADRELO_ID}.metainfo.xml)
   configure_file(assets/linux/${QUADRELO_ID}.metainfo.xml.in ${QUADRELO_FICHA} @ONLY)
@@ -71,4 +76,4 @@ add_custom_target(pacote
   COMMAND ${CMAKE_CPACK_COMMAND}
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
   COMMENT "Packing the portable folder" VERBATIM USES_TERMINAL)
-add_dependencies(pacote quadrelo banco sons_da_pasta)
+add_dependencies(pacote quadrelo banco sons_da_pasta compila_banco monta)

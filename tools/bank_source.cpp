@@ -7,9 +7,9 @@
 QString LetraRecusada(const QString &palavra)
 {
     for (const char32_t letra : palavra.toUcs4()) {
-        const QString texto = QString::fromUcs4(&letra, 1);
+        const auto texto = QChar::fromUcs4(letra);
         if (!QStringView(kAlfabeto).contains(texto)) {
-            return texto;
+            return QStringView(texto).toString();
         }
     }
     return {};

@@ -71,9 +71,10 @@ QString FalaRepeticao(const JulgamentoBanco &j)
 QString FalaConclusao(const JulgamentoBanco &j)
 {
     if (!j.serve) {
-        return QStringLiteral("PEQUENO DEMAIS: o jogo %1 não pôde ser montado. Um jogo precisa de "
-                              "26 palavras que se cruzem, e ao menos uma de 5 letras ou mais. "
-                              "Escreva %2 ou mais, curtas e longas.")
+        return QStringLiteral("pequeno demais, com %1 palavras diferentes: o jogo %2 não pôde ser "
+                              "montado. Um jogo precisa de 26 palavras que se cruzem, e ao menos "
+                              "uma de 5 letras ou mais; escreva %3 ou mais, curtas e longas")
+            .arg(j.palavras)
             .arg(j.jogos + 1)
             .arg(kPalavrasSeguras);
     }
@@ -83,8 +84,8 @@ QString FalaConclusao(const JulgamentoBanco &j)
             .arg(kPalavrasBoas);
     }
     if (j.volta != 0 && j.volta <= kJogosDaMemoria) {
-        return QStringLiteral("Serve bem. Com %1 palavras ou mais, nenhuma voltaria antes de %2 "
-                              "jogos.")
+        return QStringLiteral("Serve bem. Com %1 palavras ou mais, quase nenhuma voltaria antes de "
+                              "%2 jogos.")
             .arg(kPalavrasDeSobra)
             .arg(kJogosDaMemoria);
     }
@@ -117,13 +118,13 @@ JulgamentoBanco JulgaBanco(const QByteArray &registros, int jogos)
 
 QStringList FalaJulgamentoBanco(const JulgamentoBanco &j)
 {
-    QStringList linhas{QStringLiteral("Palavras diferentes: %1. Jogos montados para experimentar: "
-                                      "%2. Montagens que falharam e recomeçaram: %3.")
-                           .arg(j.palavras)
-                           .arg(j.jogos)
-                           .arg(j.falhas)};
-    if (j.serve) {
-        linhas << FalaRepeticao(j);
+    if (!j.serve) {
+        return {FalaConclusao(j)};
     }
-    return linhas << FalaConclusao(j);
+    return {QStringLiteral("Palavras diferentes: %1. Jogos montados para experimentar: %2. "
+                           "Montagens que falharam e recomeçaram: %3.")
+                .arg(j.palavras)
+                .arg(j.jogos)
+                .arg(j.falhas),
+            FalaRepeticao(j), FalaConclusao(j)};
 }

@@ -27,5 +27,6 @@ struct JulgamentoBanco
 /// that cannot be built.
 JulgamentoBanco JulgaBanco(const QByteArray &registros, int jogos = kJogosDoJulgamento);
 
-/// The judgement in Portuguese, one statement a line; the last says whether the bank will do.
+/// The judgement in Portuguese, one statement a line; the last says whether the bank will do. Only
+/// why not, where it will not.
 QStringList FalaJulgamentoBanco(const JulgamentoBanco &julgamento);

@@ -136,7 +136,7 @@ int Extrai(const QString &origem, const QString &destino)
         return Grava(origem, destino, lista);
     }
     std::fwrite(lista.constData(), 1, static_cast<size_t>(lista.size()), stdout);
-    return std::fflush(stdout) == 0
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0
                ? 0
                : Recusa(origem, QStringLiteral("a lista não pôde ser escrita até o fim"));
 }

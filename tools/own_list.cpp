@@ -90,6 +90,15 @@ private:
     bool m_aspasAbertas = false;
 };
 
+/// A character in words for a message: as it is, or by its number where nobody could see it.
+QString NomeDaLetra(const QString &letra)
+{
+    const char32_t numero = letra.toUcs4().first();
+    return QChar::isPrint(numero) ? u'"' + letra + u'"'
+                                  : QStringLiteral("um caractere invisível (U+%1)")
+                                        .arg(uint{numero}, 4, 16, QLatin1Char('0'));
+}
+
 QStringList FaltasDaPalavra(const QString &palavra)
 {
     QStringList faltas;
@@ -99,26 +108,20 @@ QStringList FaltasDaPalavra(const QString &palavra)
                            QString::number(kBytesPalavra));
     }
     if (const QString letra = LetraRecusada(palavra); !letra.isEmpty()) {
-        faltas << QStringLiteral("a palavra \"%1\" tem \"%2\", que não cabe numa casa; use só "
-                                 "letras do português e algarismos, sem espaço nem hífen")
-                      .arg(palavra, letra);
+        faltas << QStringLiteral("a palavra \"%1\" tem %2, que não cabe numa casa; use só letras "
+                                 "do português e algarismos, sem espaço nem hífen")
+                      .arg(palavra, NomeDaLetra(letra));
     }
     return faltas;
 }
 
-/// The first character of a clue that the game could not show, and its number.
-QString FaltaDeLetra(const QString &dica)
+/// The first character of a clue that the game could not show, or "".
+QString LetraSemCodigo(const QString &dica)
 {
     for (const char32_t letra : dica.toUcs4()) {
-        const QString texto = QString::fromUcs4(&letra, 1);
-        const bool controle = QChar::category(letra) == QChar::Other_Control;
-        if (controle || !CabeNoCodePage(texto)) {
-            const QString nome = controle ? QStringLiteral("um caractere invisível")
-                                          : QStringLiteral("\"%1\"").arg(texto);
-            return QStringLiteral("a dica tem %1 (U+%2), que o jogo não mostra; troque-o ou "
-                                  "apague-o")
-                .arg(nome)
-                .arg(uint{letra}, 4, 16, QLatin1Char('0'));
+        const QString texto = QStringView(QChar::fromUcs4(letra)).toString();
+        if (QChar::category(letra) == QChar::Other_Control || !CabeNoCodePage(texto)) {
+            return texto;
         }
     }
     return {};
@@ -132,8 +135,9 @@ QStringList FaltasDaDica(const QString &dica)
                       .arg(dica.size())
                       .arg(kBytesDica);
     }
-    if (const QString falta = FaltaDeLetra(dica); !falta.isEmpty()) {
-        faltas << falta;
+    if (const QString letra = LetraSemCodigo(dica); !letra.isEmpty()) {
+        faltas << QStringLiteral("a dica tem %1, que o jogo não mostra; troque-o ou apague-o")
+                      .arg(NomeDaLetra(letra));
     }
     return faltas;
 }
@@ -282,8 +286,10 @@ QByteArray ExtraiLista(const QByteArray &registros)
         const QString linha = banco->BancoPalavra[k] + u'\t';
         const QString citada = u'"' + QString(dica).replace(u'"', QStringLiteral("\"\"")) + u'"';
         // Quotes only where the clue would not be read back as it stands.
-        const bool clara = LeitorDeLinha(linha + dica).Campos().value(1) == dica;
-        lista += (linha + (clara ? dica : citada)).toUtf8() + '\n';
+        const QString simples = linha + dica;
+        LeitorDeLinha leitor(simples);
+        const bool clara = leitor.Campos().value(1) == dica && !leitor.AspasAbertas();
+        lista += (clara ? simples : linha + citada).toUtf8() + '\n';
     }
     return lista;
 }
