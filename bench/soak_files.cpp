@@ -10,7 +10,7 @@
 #include <thread>
 
 #include "core/bank/used_words.h"
-#include "core/files/ini_file.h"
+#include "core/files/whole_file.h"
 #include "core/records/ranking_table.h"
 #include "core/records/save_slot.h"
 
@@ -81,16 +81,20 @@ struct Arquivos
         }
     }
 
-    /// Removes what a killed write left beside the files, and says how much that was.
-    int Limpa() const
+    [[nodiscard]] int Restos() const
     {
-        int restos = 0;
-        for (const auto &nome : pasta.entryList(QDir::Files | QDir::Hidden)) {
-            restos += nome.contains(u"dat.") || nome.contains(u"ini.")
-                          ? QFile::remove(pasta.filePath(nome))
-                          : 0;
+        return static_cast<int>(pasta.entryList(QDir::Files | QDir::Hidden).size()) - 3;
+    }
+
+    /// Clears what a killed write left beside the files as the program's start does, and says how
+    /// much that was.
+    [[nodiscard]] int Limpa() const
+    {
+        const int restos = Restos();
+        for (const char *nome : {"jf.dat", "save.ini", "Ranking.dat"}) {
+            LimpaRestos(Caminho(nome));
         }
-        return restos;
+        return restos - Restos();
     }
 
     QDir pasta;
@@ -120,7 +124,7 @@ int Filho(const QStringList &argumentos)
 /// What became of the rounds, and what the kills left lying about.
 struct Contagem
 {
-    int antes = 0, entre = 0, depois = 0, restos = 0;
+    int antes = 0, entre = 0, depois = 0, limpos = 0;
 };
 
 /// Time that one round takes here when nobody kills it.
@@ -154,7 +158,7 @@ bool Rodada(const Arquivos &arquivos, const Arquivos &modelo, int rodada, std::m
         trocados += agora[k] == novo[k] ? 1 : 0;
     }
     ++(trocados == 0 ? contagem.antes : trocados == 3 ? contagem.depois : contagem.entre);
-    contagem.restos += arquivos.Limpa();
+    contagem.limpos += arquivos.Limpa();
     return std::holds_alternative<JogoSalvo>(LeSlot(arquivos.Caminho("save.ini"), kSlot));
 }
 
@@ -184,7 +188,8 @@ int main(int argc, char **argv)
     }
     std::printf(
         "%d rounds, all files whole; killed before the first file: %d, among the three: %d, "
-        "after the last: %d; temporary files left behind: %d\n",
-        rodadas, contagem.antes, contagem.entre, contagem.depois, contagem.restos);
+        "after the last: %d; files left behind: %d cleared, %d not\n",
+        rodadas, contagem.antes, contagem.entre, contagem.depois, contagem.limpos,
+        arquivos.Restos());
     return 0;
 }

@@ -1,5 +1,5 @@
-# The portable folder that a player gets: the executable, the question bank, the six sounds and an empty
-# folder for what the game writes.
+# The portable folder that a player gets: the executable, the question bank, the six sounds, what there is to
+# read with its pictures, and an empty folder for what the game writes.
 set(QUADRELO_FOLDER ${PROJECT_BINARY_DIR}/Quadrelo)
 set_target_properties(quadrelo PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${QUADRELO_FOLDER})
 
@@ -14,3 +14,15 @@ foreach(som click select acerto1 acerto2 erro1 erro2)
   list(APPEND sons_da_pasta ${QUADRELO_FOLDER}/${som}.wav)
 endforeach()
 add_custom_target(sons_da_pasta ALL DEPENDS ${sons_da_pasta})
+
+set(leitura LEIA-ME.md docs/tabuleiro.png docs/balao.png)
+foreach(arquivo IN LISTS leitura)
+  cmake_path(GET arquivo PARENT_PATH lugar)
+  add_custom_command(OUTPUT ${QUADRELO_FOLDER}/${arquivo}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${QUADRELO_FOLDER}/${lugar}
+    COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_SOURCE_DIR}/${arquivo} ${QUADRELO_FOLDER}/${arquivo}
+    DEPENDS ${PROJECT_SOURCE_DIR}/${arquivo} VERBATIM)
+  list(APPEND leitura_da_pasta ${QUADRELO_FOLDER}/${arquivo})
+endforeach()
+add_custom_target(leitura_da_pasta ALL DEPENDS ${leitura_da_pasta})
+add_dependencies(quadrelo leitura_da_pasta)

@@ -10,8 +10,8 @@
 #include "tools/console.h"
 #include "tools/house_rules.h"
 #include "tools/own_list.h"
-#include "tools/whole_output.h"
 
+#include "core/files/whole_file.h"
 #include "core/machine/program_state.h"
 #include <optional>
 #include <QCoreApplication>
@@ -63,7 +63,7 @@ int Grava(const QString &origem, const QString &destino, const QByteArray &bytes
         return Recusa(destino, QStringLiteral("o resultado apagaria o próprio arquivo lido; "
                                               "escolha outro nome"));
     }
-    if (!GravaInteiro(destino, bytes)) {
+    if (TrocaArquivo(destino, bytes) != Troca::Feita) {
         return Recusa(destino, QStringLiteral("não pôde ser gravado, e nada mudou; confira se a "
                                               "pasta existe, se você pode gravar nela e se há "
                                               "espaço no disco"));

@@ -5,11 +5,13 @@
 // and is not: one entry a line, "#" begins a comment; a pair is written WORD/WORD. --so-regras
 // leaves the spelling out, for a machine without hunspell.
 
+#include "core/files/whole_file.h"
 #include "tools/house_rules.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
@@ -211,11 +213,12 @@ private:
 
 QByteArray Le(const QString &arquivo)
 {
-    QFile leitor(arquivo);
-    if (!leitor.open(QIODevice::ReadOnly)) {
+    const auto bytes = LeArquivo(arquivo);
+    if (!bytes || !QFile::exists(arquivo)) {
         std::fprintf(stderr, "confere_banco: %s cannot be read\n", qPrintable(arquivo));
+        std::exit(2);
     }
-    return leitor.readAll();
+    return *bytes;
 }
 
 QSet<QString> LePermitidas(const QString &arquivo)

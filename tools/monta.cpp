@@ -8,8 +8,8 @@
 #include "tools/own_list.h"
 #include "tools/puzzle_run.h"
 #include "tools/puzzle_writer.h"
-#include "tools/whole_output.h"
 
+#include "core/files/whole_file.h"
 #include <algorithm>
 #include <cstdio>
 #include <memory>
@@ -125,7 +125,7 @@ private:
             return 0;
         }
         const QString lugar = QDir::toNativeSeparators(m_opcoes.saida);
-        if (!GravaInteiro(m_opcoes.saida, m_arquivo)) {
+        if (TrocaArquivo(m_opcoes.saida, m_arquivo) != Troca::Feita) {
             return Recusa(QStringLiteral("%1 não pôde ser gravado; confira se você pode gravar na "
                                          "pasta e se há espaço no disco")
                               .arg(lugar));

@@ -39,9 +39,8 @@ void CarregaRegistros(BancoPerguntas &banco, const QByteArray &bytes)
     banco.BancoDica.fill({});
     const auto registros = std::min<qsizetype>(bytes.size() / kBytesRegistro, kMaxPerguntas);
     banco.QtdPerguntas = static_cast<int>(registros);
-    for (int r = 1; r <= banco.QtdPerguntas; ++r) {
-        const qsizetype inicio = qsizetype{r - 1} * kBytesRegistro;
-        const auto k = static_cast<size_t>(r);
+    for (int k = 1; k <= banco.QtdPerguntas; ++k) {
+        const qsizetype inicio = qsizetype{k - 1} * kBytesRegistro;
         banco.BancoPalavra[k] = Campo(bytes, inicio, kBytesPalavra);
         banco.BancoDica[k] = Campo(bytes, inicio + kBytesPalavra, kBytesDica);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include "core/board/numbered_table.h"
 #include <QByteArray>
 #include <QString>
 
@@ -15,8 +15,8 @@ inline constexpr int kBytesRegistro = kBytesPalavra + kBytesDica + 1;
 /// empty.
 struct BancoPerguntas
 {
-    std::array<QString, kMaxPerguntas + 1> BancoPalavra;
-    std::array<QString, kMaxPerguntas + 1> BancoDica;
+    TabelaDe<QString, kMaxPerguntas> BancoPalavra;
+    TabelaDe<QString, kMaxPerguntas> BancoDica;
     int QtdPerguntas = 0;
 };
 

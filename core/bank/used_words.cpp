@@ -14,7 +14,7 @@ QString Chave(int k)
 
 QString PalavraDoItem(const Tabuleiro &tabuleiro, int n)
 {
-    return tabuleiro.ItemPalavra[static_cast<size_t>(n)].Palavra;
+    return tabuleiro.ItemPalavra[n].Palavra;
 }
 
 void Reconta(MemoriaUsadas &memoria)
@@ -30,7 +30,7 @@ void LeUsadas(MemoriaUsadas &memoria, const QString &arquivo)
 {
     const LoteIni lote(arquivo);
     for (int k = 0; k <= kUsadas; ++k) {
-        memoria.PalavrasUsadas[static_cast<size_t>(k)] = lote.Le(kSecao, Chave(k));
+        memoria.PalavrasUsadas[k] = lote.Le(kSecao, Chave(k));
     }
     Reconta(memoria);
 }
@@ -38,15 +38,15 @@ void LeUsadas(MemoriaUsadas &memoria, const QString &arquivo)
 void GravaUsadas(MemoriaUsadas &memoria, const QString &arquivo, const Tabuleiro &tabuleiro)
 {
     Q_ASSERT(tabuleiro.QtdItens >= 0 && tabuleiro.QtdItens <= kItens);
-    LoteIni lote(arquivo);
-    // Downwards, so that each word is read before its place is taken.
-    for (int k = kUsadas; k > tabuleiro.QtdItens; --k) {
-        lote.Escreve(kSecao, Chave(k), lote.Le(kSecao, Chave(k - kItens)));
-    }
-    for (int k = 1; k <= tabuleiro.QtdItens; ++k) {
-        lote.Escreve(kSecao, Chave(k), PalavraDoItem(tabuleiro, k));
-    }
-    lote.Grava();
+    MudaIni(arquivo, [&tabuleiro](LoteIni &lote) {
+        // Downwards, so that each word is read before its place is taken.
+        for (int k = kUsadas; k > tabuleiro.QtdItens; --k) {
+            lote.Escreve(kSecao, Chave(k), lote.Le(kSecao, Chave(k - kItens)));
+        }
+        for (int k = 1; k <= tabuleiro.QtdItens; ++k) {
+            lote.Escreve(kSecao, Chave(k), PalavraDoItem(tabuleiro, k));
+        }
+    });
     LeUsadas(memoria, arquivo);
 }
 
@@ -55,11 +55,10 @@ void EmpurraUsadas(MemoriaUsadas &memoria, const Tabuleiro &tabuleiro)
     Q_ASSERT(tabuleiro.QtdItens >= 0 && tabuleiro.QtdItens <= kItens);
     auto &palavras = memoria.PalavrasUsadas;
     for (int k = kUsadas; k > tabuleiro.QtdItens; --k) {
-        palavras[static_cast<size_t>(k)] =
-            k >= kItens ? palavras[static_cast<size_t>(k - kItens)] : QString();
+        palavras[k] = k >= kItens ? palavras[k - kItens] : QString();
     }
     for (int k = 1; k <= tabuleiro.QtdItens; ++k) {
-        palavras[static_cast<size_t>(k)] = PalavraDoItem(tabuleiro, k);
+        palavras[k] = PalavraDoItem(tabuleiro, k);
     }
     Reconta(memoria);
 }

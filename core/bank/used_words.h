@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/board/board.h"
-#include <array>
 #include <QString>
 
 /// The words of the last twenty games, which new puzzles avoid. They outlast the run in an INI file
@@ -13,7 +12,7 @@ inline constexpr int kUsadas = 520;
 struct MemoriaUsadas
 {
     /// The value of key Palavra<k> stands in entry k. Entry 0 stays empty; gaps are kept.
-    std::array<QString, kUsadas + 1> PalavrasUsadas;
+    TabelaDe<QString, kUsadas> PalavrasUsadas;
     /// Number of entries that are not empty, 0 to kUsadas + 1, as the list was last read or pushed.
     /// The builder may lower it: the words behind it are then free, but still in the list.
     int QtdUsadas = 0;

@@ -14,7 +14,7 @@ ItensDaCelula LeItens(const QString &itens)
 void ZeraTabuleiro(Tabuleiro &tabuleiro)
 {
     for (int n = 1; n <= kItens; ++n) {
-        tabuleiro.ItemPalavra[static_cast<size_t>(n)].ItemResolvido = false;
+        tabuleiro.ItemPalavra[n].ItemResolvido = false;
     }
     for (auto &celula : tabuleiro.Quadrado) {
         celula.Itens.clear();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include "core/board/numbered_table.h"
 #include <QChar>
 #include <QString>
 
@@ -43,10 +43,10 @@ struct RegistroItem
 /// directly.
 struct Tabuleiro
 {
-    std::array<CelulaQuadrado, kCelulas + 1> Quadrado;
-    std::array<RegistroItem, kItens + 1> ItemPalavra;
+    TabelaDe<CelulaQuadrado, kCelulas> Quadrado;
+    TabelaDe<RegistroItem, kItens> ItemPalavra;
     /// True from the moment a word uses the cell until the next wzera. Mirrors Text1(i).Visible.
-    std::array<bool, kCelulas + 1> Ocupada{};
+    TabelaDe<bool, kCelulas> Ocupada{};
     /// Words placed so far, 0 to kItens.
     int QtdItens = 0;
     /// How often the board has been emptied. Code that lets events run finds out by it that the

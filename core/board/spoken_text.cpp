@@ -15,7 +15,7 @@ struct LugarNoItem
 
 const RegistroItem &Item(const Tabuleiro &tabuleiro, int n)
 {
-    return tabuleiro.ItemPalavra[static_cast<size_t>(n)];
+    return tabuleiro.ItemPalavra[n];
 }
 
 /// The items through a cell, by their geometry: the cell's own list is emptied by giving up.
@@ -167,7 +167,7 @@ QString FalaJulgamento(const QString &palavra, bool certa, int resolvidos)
 QString FalaLetraDada(const Tabuleiro &tabuleiro, int c, int selecionado)
 {
     return QStringLiteral("Letra dada: %1. %2.")
-        .arg(tabuleiro.Quadrado[static_cast<size_t>(c)].Letra)
+        .arg(tabuleiro.Quadrado[c].Letra)
         .arg(Lugar(tabuleiro, c, selecionado));
 }
 

@@ -5,9 +5,27 @@
 
 namespace {
 
+// Least lengths, in letters.
 constexpr int kMenorPrimeira = 5;
 constexpr int kMenorAtravessada = 5;
 constexpr int kMenorSegundaDescida = 6;
+
+// Chances, in the hundredths of Sorteia: that the first word runs down, that a build with such a
+// word leaves the skeleton to the rescue before and behind its first stage, that a letter is tried.
+constexpr int kChancePrimeiraDesce = 75;
+constexpr int kChanceSemEsqueleto = 50;
+constexpr int kChanceSoUmaDescida = 25;
+constexpr int kChanceLetra = 65;
+
+// Where the first word begins: the cells behind the first ones, as many as are drawn from.
+constexpr int kPontosDeitada = 190;
+constexpr int kAntesDosPontosDeitada = 2;
+constexpr int kMenorRestoDeitada = 4;
+constexpr int kPontosDescida = 90;
+constexpr int kAntesDosPontosDescida = 9;
+constexpr int kMaiorMargemDescida = 4;
+
+// How often a stage draws before it gives up.
 constexpr int kSorteiosPorLetra = 199;
 constexpr int kSorteiosDescida = 100;
 constexpr int kPassadasResgate = 150;
@@ -56,18 +74,13 @@ private:
     int PontoDescida(int k) const;
     bool Resgata();
 
-    [[nodiscard]] const RegistroItem &Item(int n) const
-    {
-        return m_tabuleiro.ItemPalavra[static_cast<size_t>(n)];
-    }
+    [[nodiscard]] const RegistroItem &Item(int n) const { return m_tabuleiro.ItemPalavra[n]; }
     [[nodiscard]] int Comprimento(int k) const { return m_montagem.d.indice.Comprimento(k); }
     bool Chance(int p) { return Sorteia(m_montagem.d.acaso, p); }
 
     Montagem m_montagem;
     Tabuleiro &m_tabuleiro;
     bool m_primeiraDesce = false;
-    /// Position, from 1, in the latest across word, of the letter on the word that it crosses.
-    int m_cruzamento = 0;
 };
 
 void Condutor::LimpaTabelas()
@@ -95,7 +108,7 @@ bool Condutor::TentaPrimeira()
     if (Comprimento(k) < kMenorPrimeira) {
         return false;
     }
-    m_primeiraDesce = Chance(75);
+    m_primeiraDesce = Chance(kChancePrimeiraDesce);
     if (m_primeiraDesce) {
         const int ponto = SorteiaPontoDescida();
         if (!Cabe(Comprimento(k), ponto, u'V')) {
@@ -104,8 +117,8 @@ bool Condutor::TentaPrimeira()
         m_montagem.Poe(k, ponto, u'V');
         return true;
     }
-    const int ponto = SorteiaNumero(m_montagem.d.acaso, 190) + 2;
-    if (ponto % kColunas < 4 || !Cabe(Comprimento(k), ponto, u'H')) {
+    const int ponto = SorteiaNumero(m_montagem.d.acaso, kPontosDeitada) + kAntesDosPontosDeitada;
+    if (ponto % kColunas < kMenorRestoDeitada || !Cabe(Comprimento(k), ponto, u'H')) {
         return false;
     }
     m_montagem.Poe(k, ponto, u'H');
@@ -115,8 +128,9 @@ bool Condutor::TentaPrimeira()
 int Condutor::SorteiaPontoDescida()
 {
     for (;;) {
-        const int ponto = SorteiaNumero(m_montagem.d.acaso, 90) + 9;
-        const int margem = SorteiaNumero(m_montagem.d.acaso, 4) + 1;
+        const int ponto =
+            SorteiaNumero(m_montagem.d.acaso, kPontosDescida) + kAntesDosPontosDescida;
+        const int margem = SorteiaNumero(m_montagem.d.acaso, kMaiorMargemDescida) + 1;
         if (espaco(ponto, u'L') > margem && espaco(ponto, u'R') > margem) {
             return ponto;
         }
@@ -125,13 +139,13 @@ int Condutor::SorteiaPontoDescida()
 
 Seguir Condutor::Esqueleto()
 {
-    if (!m_primeiraDesce || Chance(50)) {
+    if (!m_primeiraDesce || Chance(kChanceSemEsqueleto)) {
         return Seguir::Resgate;
     }
     if (const Seguir fim = AtravessaPalavras({1, 1, kMenorAtravessada}); fim != Seguir::Proxima) {
         return fim;
     }
-    if (Chance(25)) {
+    if (Chance(kChanceSoUmaDescida)) {
         return Seguir::Resgate;
     }
     if (SegundaDescida() == Seguir::Pronta) {
@@ -146,7 +160,7 @@ Seguir Condutor::AtravessaPalavras(const Atravessar &onde)
 {
     const int m = static_cast<int>(Item(onde.item).Palavra.size());
     for (int L = onde.desde; L <= m; ++L) {
-        const bool sorteada = Chance(65);
+        const bool sorteada = Chance(kChanceLetra);
         if (!(sorteada && L != m - 1) && L != m) {
             continue;
         }
@@ -171,7 +185,6 @@ Seguir Condutor::AtravessaLetra(const Atravessar &onde, int L)
         if (q == 0) {
             continue;
         }
-        m_cruzamento = q;
         const int ponto = descida.Ponto + kColunas * (L - 1) - (q - 1);
         if (!Cabe(Comprimento(k), ponto, u'H')) {
             continue;
@@ -202,11 +215,12 @@ Seguir Condutor::SegundaDescida()
 int Condutor::PontoDescida(int k) const
 {
     const RegistroItem &ultima = Item(m_tabuleiro.QtdItens);
-    const QChar primeira = m_montagem.d.banco.BancoPalavra[static_cast<size_t>(k)][0];
+    const int cruzamento = ColunaDe(Item(1).Ponto) - ColunaDe(ultima.Ponto) + 1;
+    const QChar primeira = m_montagem.d.banco.BancoPalavra[k][0];
     const int fim = qMin(Comprimento(k), static_cast<int>(ultima.Palavra.size()));
     for (int q = 1; q <= fim; ++q) {
         const int ponto = ultima.Ponto + q - 1;
-        if (q != m_cruzamento && ultima.Palavra[q - 1] == primeira &&
+        if (q != cruzamento && ultima.Palavra[q - 1] == primeira &&
             Cabe(Comprimento(k), ponto, u'V')) {
             return ponto;
         }
@@ -223,46 +237,6 @@ bool Condutor::Resgata()
 }
 
 } // namespace
-
-bool Montagem::JaFoi(int k)
-{
-    return d.busca == BuscaUsadas::Indice
-               ? m_marcas.JaFoi(k)
-               : jafoi(d.banco.BancoPalavra[static_cast<size_t>(k)], d.memoria, d.tabuleiro);
-}
-
-void Montagem::Poe(int k, int ponto, QChar sentido)
-{
-    const auto entrada = static_cast<size_t>(k);
-    Carrega_Palavra(d.tabuleiro, d.exibicao,
-                    {d.banco.BancoPalavra[entrada], ponto, sentido, d.banco.BancoDica[entrada]});
-    m_marcas.Marca(k);
-}
-
-const std::vector<Travessia> &Montagem::Travessias()
-{
-    if (m_itensDasTravessias == d.tabuleiro.QtdItens) {
-        return m_travessias;
-    }
-    m_itensDasTravessias = d.tabuleiro.QtdItens;
-    m_travessias.clear();
-    for (int i = 1; i <= kCelulas; ++i) {
-        if (!d.tabuleiro.Ocupada[static_cast<size_t>(i)]) {
-            continue;
-        }
-        // A cell where two words cross is offered the direction across, and finds a neighbour in
-        // the way.
-        const CelulaQuadrado &celula = d.tabuleiro.Quadrado[static_cast<size_t>(i)];
-        const bool desce = celula.Sentido == u'H';
-        const int antes = Vazios(d.tabuleiro, i, desce ? u'T' : u'L');
-        const int depois = antes > 0 ? Vazios(d.tabuleiro, i, desce ? u'D' : u'R') : 0;
-        if (antes > 0 && depois > 0) {
-            m_travessias.push_back(
-                {i, desce ? u'V' : u'H', antes, depois, d.indice.PrimeirasPosicoes(celula.Letra)});
-        }
-    }
-    return m_travessias;
-}
 
 FimMontagem CarregaPalavras(const DadosMontagem &dados)
 {

@@ -75,7 +75,7 @@ int Vazios(const Tabuleiro &tabuleiro, int i, QChar d)
     const int tamanho = horizontal ? 1 : kColunas;
     const int passo = d == u'L' || d == u'T' ? -tamanho : tamanho;
     const int lado = horizontal ? kColunas : 1;
-    const auto ocupada = [&tabuleiro](int j) { return tabuleiro.Ocupada[static_cast<size_t>(j)]; };
+    const auto ocupada = [&tabuleiro](int j) { return tabuleiro.Ocupada[j]; };
 
     int contagem = 0;
     for (int k = 1; k <= limite; ++k) {

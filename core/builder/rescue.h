@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/builder/fill_driver.h"
+#include "core/builder/build_state.h"
 
 /// Tries to fit one more word into the board, across a cell in use, with `tentar` draws for each
 /// usable cell. The word touches other words in the crossing cell alone and leaves one clear cell

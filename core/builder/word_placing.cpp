@@ -26,15 +26,15 @@ void Carrega_Palavra(Tabuleiro &tabuleiro, ExibicaoMontagem &exibicao, const Pal
     const int passo = PassoDe(posta.wSentido);
     for (int k = 0; passo != 0 && k < posta.Palavra.size(); ++k) {
         const int i = posta.ponto + passo * k;
-        MarcaCelula(tabuleiro.Quadrado[static_cast<size_t>(i)], posta.Palavra[k], n, posta);
-        tabuleiro.Ocupada[static_cast<size_t>(i)] = true;
+        MarcaCelula(tabuleiro.Quadrado[i], posta.Palavra[k], n, posta);
+        tabuleiro.Ocupada[i] = true;
         exibicao.MostraCelula(i);
         exibicao.DeixaEventos();
         exibicao.MostraSombra(i);
         exibicao.DeixaEventos();
     }
     tabuleiro.QtdItens = n;
-    auto &item = tabuleiro.ItemPalavra[static_cast<size_t>(n)];
+    auto &item = tabuleiro.ItemPalavra[n];
     item.Palavra = posta.Palavra;
     item.Sentido = posta.wSentido;
     item.Ponto = posta.ponto;

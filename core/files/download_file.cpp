@@ -3,7 +3,6 @@
 #include "core/machine/program_state.h"
 #include <algorithm>
 #include <array>
-#include <QDir>
 #include <QFile>
 #include <QUrl>
 
@@ -93,15 +92,15 @@ QString NomeDeArquivo(const QString &endereco)
     return NomeDeDispositivo(nome) ? u'_' + nome : nome;
 }
 
-QString ReservaArquivo(const QString &pasta, const QString &nome)
+QString GuardaArquivo(const QString &de, const QString &pasta, const QString &nome)
 {
-    QDir().mkpath(pasta);
     const qsizetype ponto = LugarDaExtensao(nome);
     for (int vez = 1; vez <= kMaximoDeTentativas; ++vez) {
         const QString numero = vez == 1 ? QString() : QStringLiteral(" (%1)").arg(vez);
-        QFile arquivo(Caminho(pasta, nome.first(ponto) + numero + nome.sliced(ponto)));
-        if (arquivo.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-            return arquivo.fileName();
+        const QString lugar = Caminho(pasta, nome.first(ponto) + numero + nome.sliced(ponto));
+        // Never over a file that is there.
+        if (QFile::rename(de, lugar)) {
+            return lugar;
         }
     }
     return {};

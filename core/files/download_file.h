@@ -10,7 +10,7 @@
 /// the extension survives the shortening.
 QString NomeDeArquivo(const QString &endereco);
 
-/// Makes an empty file called `nome` in `pasta`, or with a number before the extension where that
-/// is taken ("jogo (2).exe"), and gives back its path. Nothing that exists is touched. The folder
-/// is made if it is missing. "" if no file can be made.
-QString ReservaArquivo(const QString &pasta, const QString &nome);
+/// Moves the file `de` to `pasta`, a folder of the same file system, under the name `nome`, or with
+/// a number before the extension where that is taken ("jogo (2).exe"), and gives back its new path.
+/// Nothing that exists is touched. "" if it cannot be moved; it stays where it is then.
+QString GuardaArquivo(const QString &de, const QString &pasta, const QString &nome);

@@ -1,58 +1,12 @@
 #include "core/files/ini_file.h"
 
 #include "core/files/codepage.h"
-#include <optional>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
+#include "core/files/whole_file.h"
 
 namespace {
 
-/// How often a batch starts over because somebody else wrote the file while it was being written.
+/// How often a change starts over because somebody wrote the file while it was being written.
 constexpr int kTentativas = 20;
-
-/// The bytes of a file, none for a missing one; no value where something is there that cannot be
-/// read.
-std::optional<QByteArray> LeBytes(const QString &arquivo)
-{
-    const QFileInfo info(arquivo);
-    if (!info.exists()) {
-        return QByteArray();
-    }
-    QFile leitor(arquivo);
-    if (!info.isFile() || !leitor.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    const auto bytes = leitor.readAll();
-    return leitor.error() == QFileDevice::NoError ? std::optional(bytes) : std::nullopt;
-}
-
-/// A file that nobody may write stays, also where its owner has the power to replace it.
-bool SoLeitura(const QString &arquivo)
-{
-    constexpr auto kEscrita =
-        QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
-    const QFileInfo info(arquivo);
-    return info.exists() && (!(info.permissions() & kEscrita) || !info.isWritable());
-}
-
-enum class Troca { Feita, Falhou, ArquivoMudou };
-
-/// Puts `novo` in the place of the file, provided that this still holds `base`.
-Troca TrocaArquivo(const QString &arquivo, const QByteArray &base, const QByteArray &novo)
-{
-    if (SoLeitura(arquivo)) {
-        return Troca::Falhou;
-    }
-    QSaveFile escritor(arquivo);
-    if (!escritor.open(QIODevice::WriteOnly) || escritor.write(novo) != novo.size()) {
-        return Troca::Falhou;
-    }
-    if (LeBytes(arquivo) != base) {
-        return Troca::ArquivoMudou;
-    }
-    return escritor.commit() ? Troca::Feita : Troca::Falhou;
-}
 
 } // namespace
 
@@ -65,13 +19,11 @@ QString LeIni(const QString &secao, const QString &chave, const QString &arquivo
 bool WritePrivateProfileStringA(const QString &secao, const QString &chave, const QString &valor,
                                 const QString &arquivo)
 {
-    LoteIni lote(arquivo);
-    lote.Escreve(secao, chave, valor);
-    return lote.Grava();
+    return MudaIni(arquivo, [&](LoteIni &lote) { lote.Escreve(secao, chave, valor); });
 }
 
 LoteIni::LoteIni(const QString &arquivo)
-    : m_arquivo(arquivo), m_base(LeBytes(arquivo).value_or(QByteArray())), m_texto(m_base)
+    : m_base(LeArquivo(arquivo)), m_texto(m_base.value_or(QByteArray()))
 {
 }
 
@@ -83,42 +35,27 @@ QString LoteIni::Le(const QString &secao, const QString &chave, const QString &p
 
 void LoteIni::Escreve(const QString &secao, const QString &chave, const QString &valor)
 {
-    m_escritas.push_back({ParaCodePage(secao), ParaCodePage(chave), ParaCodePage(valor)});
-    const auto &escrita = m_escritas.back();
-    m_texto.Escreve(escrita.secao, escrita.chave, escrita.valor);
+    m_texto.Escreve(ParaCodePage(secao), ParaCodePage(chave), ParaCodePage(valor));
+    m_mudou = true;
 }
 
-bool LoteIni::Grava()
+bool MudaIni(const QString &arquivo, const std::function<void(LoteIni &)> &muda)
 {
-    if (m_escritas.empty()) {
-        return true;
-    }
+    const TravaDeArquivo trava(arquivo);
     for (int tentativa = 0; tentativa < kTentativas; ++tentativa) {
-        const auto noDisco = LeBytes(m_arquivo);
-        if (!noDisco) {
+        LoteIni lote(arquivo);
+        if (!lote.Legivel()) {
             return false;
         }
-        if (*noDisco != m_base) {
-            RefazSobre(*noDisco);
+        muda(lote);
+        if (!lote.m_mudou) {
+            return true;
         }
-        const auto novo = m_texto.Bytes();
-        const auto troca = TrocaArquivo(m_arquivo, m_base, novo);
-        if (troca == Troca::Feita) {
-            m_base = novo;
-            m_escritas.clear();
-        }
-        if (troca != Troca::ArquivoMudou) {
+        const auto troca = TrocaArquivo(arquivo, lote.m_texto.Bytes(),
+                                        [&] { return LeArquivo(arquivo) == lote.m_base; });
+        if (troca != Troca::Recusada) {
             return troca == Troca::Feita;
         }
     }
     return false;
-}
-
-void LoteIni::RefazSobre(const QByteArray &bytes)
-{
-    m_base = bytes;
-    m_texto = TextoIni(bytes);
-    for (const auto &escrita : m_escritas) {
-        m_texto.Escreve(escrita.secao, escrita.chave, escrita.valor);
-    }
 }

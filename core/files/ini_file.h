@@ -1,15 +1,17 @@
 #pragma once
 
 #include "core/files/ini_text.h"
+#include <functional>
+#include <optional>
 #include <QString>
-#include <vector>
 
 /// Reading and writing of stored files, all of them INI files in the code page. What counts as a
 /// section, a key and a value, and what a write changes, TextoIni says.
 ///
 /// A write puts a whole new file in the old one's place, flushed to the disk, or changes nothing
 /// and leaves nothing behind. It creates the file, but no directory. It fails where the directory
-/// is missing or closed, the disk full, the file read-only, unreadable or not a file at all.
+/// is missing or closed, the disk full, the file read-only, unreadable, larger than
+/// kMaximoDoArquivo or not a file at all.
 ///
 /// `arquivo` is always a full path.
 
@@ -22,36 +24,33 @@ QString LeIni(const QString &secao, const QString &chave, const QString &arquivo
 bool WritePrivateProfileStringA(const QString &secao, const QString &chave, const QString &valor,
                                 const QString &arquivo);
 
-/// Many reads and writes of one file in a row, for the price of one: the file is read once, when
-/// the batch is made, and all writes reach the disk together. Reads see the batch's earlier writes.
+/// The text of one file, read once for many questions.
 class LoteIni
 {
 public:
     explicit LoteIni(const QString &arquivo);
 
+    /// False where something is there that cannot be read. It has no keys then, but is not empty.
+    [[nodiscard]] bool Legivel() const { return m_base.has_value(); }
+
     /// As LeIni does.
     [[nodiscard]] QString Le(const QString &secao, const QString &chave,
                              const QString &padrao = {}) const;
 
-    /// Notes a write. The file changes with Grava only.
+    /// Notes a write, which Le sees from now on. It reaches the file inside MudaIni only.
     void Escreve(const QString &secao, const QString &chave, const QString &valor);
 
-    /// Writes the file: all noted writes or none. Where the file on disk has changed since the
-    /// batch read it, the writes are made in its new text. True if it holds them now, or if there
-    /// were none to make.
-    bool Grava();
-
 private:
-    struct Escrita
-    {
-        QByteArray secao, chave, valor;
-    };
+    friend bool MudaIni(const QString &arquivo, const std::function<void(LoteIni &)> &muda);
 
-    void RefazSobre(const QByteArray &bytes);
-
-    QString m_arquivo;
     /// The file's bytes that m_texto began with.
-    QByteArray m_base;
+    std::optional<QByteArray> m_base;
     TextoIni m_texto;
-    std::vector<Escrita> m_escritas;
+    bool m_mudou = false;
 };
+
+/// Many reads and writes of one file in a row, for the price of one: `muda` is given what the disk
+/// holds, and all that it writes reaches the file together or not at all. No other game writes
+/// meanwhile; where one does all the same, `muda` is called again with what is there then. True if
+/// the file holds the writes now, or if there were none to make.
+bool MudaIni(const QString &arquivo, const std::function<void(LoteIni &)> &muda);

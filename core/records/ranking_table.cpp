@@ -41,11 +41,8 @@ LinhaRanking LeLinha(const LoteIni &lote, int p)
     return {legivel && t >= 0 ? FormataTempo(t) : vazio, nome};
 }
 
-} // namespace
-
-int ProcuraLugar(const QString &arquivo, int t)
+int LugarEm(const LoteIni &lote, int t)
 {
-    const LoteIni lote(arquivo);
     for (int p = 1; p <= kLugares; ++p) {
         if (t < NumeroInicial(lote.Le(Secao(p), kTempo, QStringLiteral("999999")))) {
             return p;
@@ -54,10 +51,8 @@ int ProcuraLugar(const QString &arquivo, int t)
     return 0;
 }
 
-bool GravaLugar(const QString &arquivo, int p, const QString &nome, int t)
+void EntraEm(LoteIni &lote, int p, const QString &nome, int t)
 {
-    Q_ASSERT(p >= 1 && p <= kLugares);
-    LoteIni lote(arquivo);
     for (int j = kLugares; j > p; --j) {
         for (const auto &chave : {kNome, kTempo}) {
             lote.Escreve(Secao(j), chave, lote.Le(Secao(j - 1), chave));
@@ -65,15 +60,35 @@ bool GravaLugar(const QString &arquivo, int p, const QString &nome, int t)
     }
     lote.Escreve(Secao(p), kNome, nome.leftJustified(kTamanhoNome, u' ', true));
     lote.Escreve(Secao(p), kTempo, QString::number(t));
-    return lote.Grava();
 }
 
-std::array<LinhaRanking, kLugares + 1> LeRanking(const QString &arquivo)
+} // namespace
+
+int ProcuraLugar(const QString &arquivo, int t)
+{
+    return LugarEm(LoteIni(arquivo), t);
+}
+
+bool GravaLugar(const QString &arquivo, int p, const QString &nome, int t)
+{
+    Q_ASSERT(p >= 1 && p <= kLugares);
+    bool entrou = false;
+    const bool gravou = MudaIni(arquivo, [&](LoteIni &lote) {
+        const int agora = LugarEm(lote, t);
+        entrou = agora != 0;
+        if (entrou) {
+            EntraEm(lote, std::max(p, agora), nome, t);
+        }
+    });
+    return gravou && entrou;
+}
+
+TabelaDe<LinhaRanking, kLugares> LeRanking(const QString &arquivo)
 {
     const LoteIni lote(arquivo);
-    std::array<LinhaRanking, kLugares + 1> linhas;
+    TabelaDe<LinhaRanking, kLugares> linhas;
     for (int p = 1; p <= kLugares; ++p) {
-        linhas[static_cast<size_t>(p)] = LeLinha(lote, p);
+        linhas[p] = LeLinha(lote, p);
     }
     return linhas;
 }

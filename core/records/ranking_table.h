@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include "core/board/numbered_table.h"
 #include <QString>
 
 /// The five best times with their players' names, kept in an INI file: sections Ranking1 (the best)
@@ -29,6 +29,10 @@ int ProcuraLugar(const QString &arquivo, int t);
 /// fifth falls out, and writes name and time. The name is cut or padded with blanks to kTamanhoNome
 /// characters.
 ///
+/// `p` is the place that was found before the player gave the name. The game goes below it where
+/// better times have come meanwhile, or where the table could not be read then; one that has no
+/// place any more is not entered.
+///
 /// All of that reaches the file at once. So it is to be called when the player has given the name,
 /// not before: until then nothing has moved, and a program that ends meanwhile leaves the ranking
 /// as it was, no entry lost or doubled. The file comes out the same as if the places had been moved
@@ -36,4 +40,4 @@ int ProcuraLugar(const QString &arquivo, int t);
 bool GravaLugar(const QString &arquivo, int p, const QString &nome, int t);
 
 /// The rows of places 1 to 5; entry 0 is unused.
-std::array<LinhaRanking, kLugares + 1> LeRanking(const QString &arquivo);
+TabelaDe<LinhaRanking, kLugares> LeRanking(const QString &arquivo);

@@ -27,7 +27,7 @@ struct CelulaDoSlot
     bool emPe = false;
 };
 
-using GradeDoSlot = std::array<CelulaDoSlot, kCelulas + 1>;
+using GradeDoSlot = TabelaDe<CelulaDoSlot, kCelulas>;
 
 std::optional<bool> LeBooleano(const QString &texto)
 {
@@ -88,7 +88,7 @@ std::optional<FalhaDoSlot> LeItem(const LoteIni &lote, const QString &secao, int
 std::optional<FalhaDoSlot> DeitaItem(const RegistroItem &item, GradeDoSlot &grade)
 {
     for (int k = 0; k < item.Palavra.size(); ++k) {
-        auto &celula = grade[static_cast<size_t>(CelulaDaLetra(item, k))];
+        auto &celula = grade[CelulaDaLetra(item, k)];
         bool &mesmoSentido = item.Sentido == u'H' ? celula.deitada : celula.emPe;
         if (mesmoSentido) {
             return FalhaDoSlot::Sobreposicao;
@@ -119,18 +119,18 @@ bool SalvaSlot(const QString &arquivo, int n, const QString &nome, const Tabulei
 {
     Q_ASSERT(n >= 1 && n <= kSlots && tabuleiro.QtdItens == kItens);
     Q_ASSERT(tempoSegundos >= 0 && tempoSegundos <= kMaximoDoTempo);
-    LoteIni lote(arquivo);
-    const auto secao = Secao(n);
-    lote.Escreve(secao, QStringLiteral("Nome"), nome);
-    for (int i = 1; i <= kItens; ++i) {
-        EscreveItem(lote, secao, i, tabuleiro.ItemPalavra[static_cast<size_t>(i)]);
-    }
     auto tempo = QString::number(tempoSegundos, 'f', QLocale::FloatingPointShortest);
     if (separadorDecimal == u",") {
         tempo.replace(u'.', u',');
     }
-    lote.Escreve(secao, QStringLiteral("Tempo"), tempo);
-    return lote.Grava();
+    return MudaIni(arquivo, [&](LoteIni &lote) {
+        const auto secao = Secao(n);
+        lote.Escreve(secao, QStringLiteral("Nome"), nome);
+        for (int i = 1; i <= kItens; ++i) {
+            EscreveItem(lote, secao, i, tabuleiro.ItemPalavra[i]);
+        }
+        lote.Escreve(secao, QStringLiteral("Tempo"), tempo);
+    });
 }
 
 std::variant<JogoSalvo, FalhaDoSlot> LeSlot(const QString &arquivo, int n)
@@ -140,7 +140,7 @@ std::variant<JogoSalvo, FalhaDoSlot> LeSlot(const QString &arquivo, int n)
     JogoSalvo jogo;
     GradeDoSlot grade;
     for (int i = 1; i <= kItens; ++i) {
-        auto &item = jogo.itens[static_cast<size_t>(i)];
+        auto &item = jogo.itens[i];
         auto falha = LeItem(lote, Secao(n), i, item);
         if (!falha) {
             falha = DeitaItem(item, grade);
@@ -157,12 +157,13 @@ std::variant<JogoSalvo, FalhaDoSlot> LeSlot(const QString &arquivo, int n)
     return jogo;
 }
 
-std::array<QString, kSlots + 1> NomesDosSlots(const QString &arquivo)
+NomesSalvos NomesDosSlots(const QString &arquivo)
 {
     const LoteIni lote(arquivo);
-    std::array<QString, kSlots + 1> nomes;
+    NomesSalvos nomes;
+    nomes.lidos = lote.Legivel();
     for (int n = 1; n <= kSlots; ++n) {
-        nomes[static_cast<size_t>(n)] = lote.Le(Secao(n), QStringLiteral("Nome"));
+        nomes.nome[n] = lote.Le(Secao(n), QStringLiteral("Nome"));
     }
     return nomes;
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/board/board.h"
-#include <array>
 #include <QString>
 #include <variant>
 
@@ -27,7 +26,7 @@ bool SalvaSlot(const QString &arquivo, int n, const QString &nome, const Tabulei
 struct JogoSalvo
 {
     /// Entries 1 to kItens.
-    std::array<RegistroItem, kItens + 1> itens;
+    TabelaDe<RegistroItem, kItens> itens;
     /// Seconds played, from 0 to kMaximoDoTempo, with fractions.
     double tempo = 0;
 };
@@ -53,4 +52,12 @@ enum class FalhaDoSlot {
 std::variant<JogoSalvo, FalhaDoSlot> LeSlot(const QString &arquivo, int n);
 
 /// The names of slots 1 to kSlots, entry 0 unused. A slot without a name is free.
-std::array<QString, kSlots + 1> NomesDosSlots(const QString &arquivo);
+struct NomesSalvos
+{
+    TabelaDe<QString, kSlots> nome;
+    /// False where the file is there and cannot be read: the names are empty, the slots perhaps
+    /// not.
+    bool lidos = true;
+};
+
+NomesSalvos NomesDosSlots(const QString &arquivo);

@@ -1,8 +1,7 @@
 #include "core/registry/registry_store_portable.h"
 
+#include "core/files/whole_file.h"
 #include "core/registry/registry_tree.h"
-#include <QFile>
-#include <QSaveFile>
 
 namespace {
 
@@ -43,10 +42,9 @@ RegistroPortatil::RegistroPortatil()
 RegistroPortatil::RegistroPortatil(const QString &arquivo) : RegistroPortatil()
 {
     m_arquivo = arquivo;
-    QFile entrada(arquivo);
-    if (entrada.open(QIODevice::ReadOnly)) {
-        LeArvores(entrada.readAll(), m_raizes);
-    }
+    const auto bytes = LeArquivo(arquivo);
+    m_legivel = bytes.has_value();
+    LeArvores(bytes.value_or(QByteArray()), m_raizes);
 }
 
 RegistroPortatil::~RegistroPortatil()
@@ -59,10 +57,8 @@ bool RegistroPortatil::Salva()
     if (m_arquivo.isEmpty() || !m_mudou) {
         return true;
     }
-    QSaveFile saida(m_arquivo);
-    const QByteArray bytes = EscreveArvores(m_raizes);
-    if (!saida.open(QIODevice::WriteOnly) || saida.write(bytes) != bytes.size() ||
-        !saida.commit()) {
+    // What could not be read is not known, so nothing takes its place.
+    if (!m_legivel || TrocaArquivo(m_arquivo, EscreveArvores(m_raizes)) != Troca::Feita) {
         return false;
     }
     m_mudou = false;

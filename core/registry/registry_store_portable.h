@@ -20,7 +20,7 @@ public:
     RegistroPortatil();
 
     /// Kept in the file `arquivo`: holds what can be read of it. A missing file is an empty
-    /// registry.
+    /// registry; one that is there and cannot be read is never written over.
     explicit RegistroPortatil(const QString &arquivo);
 
     /// Saves what has not been saved.
@@ -64,6 +64,7 @@ private:
     ChaveRegistro Abre(std::shared_ptr<NoRegistro> no, std::uint32_t acesso);
 
     QString m_arquivo;
+    bool m_legivel = true;
     bool m_mudou = false;
     std::vector<std::shared_ptr<NoRegistro>> m_raizes;
     QHash<ChaveRegistro, Aberta> m_abertas;

@@ -146,7 +146,7 @@ TEST(Pictures, HaveTheSizesOfTheirControlsAndTheRightDepth)
         Caso{u"Image7", {196, 21}, false},      Caso{u"ImgR", {20, 19}, false},
         Caso{u"Image1", {20, 20}, false},       Caso{u"ImgHintDire", {14, 28}, false},
         Caso{u"ImgHintDire2", {12, 13}, false}, Caso{u"Jogo", {70, 118}, true},
-        Caso{u"Mao", {32, 32}, false}};
+        Caso{u"Pergunta", {32, 32}, false},     Caso{u"Mao", {32, 32}, false}};
     for (const Caso &caso : casos) {
         for (int escala = 1; escala <= 3; ++escala) {
             const QImage imagem = Le(caso.nome, escala);

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/core/test_files.h"
 #include <array>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 
 TEST(NomeDeArquivo, IsTheLastPathElementMadeHarmless)
 {
@@ -57,22 +55,19 @@ TEST(NomeDeArquivo, FitsAFileSystemAndKeepsTheExtension)
     EXPECT_LE(NomeDeArquivo(QStringLiteral("http://h/a.") + QString(10'000, u'b')).size(), 200);
 }
 
-TEST(ReservaArquivo, NumbersTheNameAndTouchesNothingThatExists)
+TEST(GuardaArquivo, NumbersTheNameAndTouchesNothingThatExists)
 {
-    QTemporaryDir raiz;
-    const QString pasta = raiz.filePath(QStringLiteral("não/existe"));
-    const auto reserva = [&pasta](const char16_t *nome) {
-        return QDir(pasta).relativeFilePath(ReservaArquivo(pasta, QString::fromUtf16(nome)));
-    };
-    EXPECT_EQ(reserva(u"jogo-1.6.exe"), QStringLiteral("jogo-1.6.exe"));
-    QFile primeiro(QDir(pasta).filePath(QStringLiteral("jogo-1.6.exe")));
-    ASSERT_TRUE(primeiro.open(QIODevice::WriteOnly) && primeiro.write("do jogador") > 0);
-    primeiro.close();
-    EXPECT_EQ(reserva(u"jogo-1.6.exe"), QStringLiteral("jogo-1.6 (2).exe"));
-    EXPECT_EQ(reserva(u"jogo-1.6.exe"), QStringLiteral("jogo-1.6 (3).exe"));
-    EXPECT_EQ(reserva(u"LEIAME"), QStringLiteral("LEIAME"));
-    EXPECT_EQ(reserva(u"LEIAME"), QStringLiteral("LEIAME (2)"));
-    EXPECT_EQ(primeiro.size(), 10);
-    // A file stands where the folder would be.
-    EXPECT_EQ(ReservaArquivo(primeiro.fileName(), QStringLiteral("x")), QString());
+    const PastaDeTeste pasta;
+    const QString raiz = pasta.Caminho("");
+    pasta.Arquivo("jogo-1.6.exe", "do jogador");
+    for (const char *nome : {"jogo-1.6 (2).exe", "jogo-1.6 (3).exe", "LEIAME", "LEIAME (2)"}) {
+        const bool jogo = nome[0] == 'j';
+        EXPECT_EQ(GuardaArquivo(pasta.Arquivo("x.parte", nome), raiz,
+                                jogo ? QStringLiteral("jogo-1.6.exe") : QStringLiteral("LEIAME")),
+                  pasta.Caminho(nome));
+        EXPECT_EQ(pasta.Conteudo(pasta.Caminho(nome)), nome);
+    }
+    EXPECT_EQ(pasta.Conteudo(pasta.Caminho("jogo-1.6.exe")), "do jogador");
+    EXPECT_EQ(pasta.Lista().size(), 5);
+    EXPECT_EQ(GuardaArquivo(pasta.Caminho("falta"), raiz, QStringLiteral("x")), QString());
 }

@@ -73,35 +73,33 @@ TEST(EscreveIni, FailsWithoutATraceInAClosedFolder)
     EXPECT_TRUE(pasta.Conteudo(arquivo).startsWith("[s]\r\na="));
 }
 
-TEST(LoteIni, ReadsItsOwnWritesAndCommitsThemTogether)
+TEST(MudaIni, ReadsItsOwnWritesAndCommitsThemTogether)
 {
     PastaDeTeste pasta;
     const auto arquivo = pasta.Arquivo("x.ini", "[s]\r\na=1\r\n");
     const auto s = QStringLiteral("s");
-    LoteIni lote(arquivo);
-    lote.Escreve(s, b, lote.Le(s, a));
-    lote.Escreve(s, a, QStringLiteral("2"));
-    EXPECT_EQ(lote.Le(s, a) + lote.Le(s, b), u"21");
-    EXPECT_EQ(pasta.Conteudo(arquivo), "[s]\r\na=1\r\n");
-    EXPECT_TRUE(lote.Grava());
+    EXPECT_TRUE(MudaIni(arquivo, [&](LoteIni &lote) {
+        lote.Escreve(s, b, lote.Le(s, a));
+        lote.Escreve(s, a, QStringLiteral("2"));
+        EXPECT_EQ(lote.Le(s, a) + lote.Le(s, b), u"21");
+        EXPECT_EQ(pasta.Conteudo(arquivo), "[s]\r\na=1\r\n");
+    }));
     EXPECT_EQ(pasta.Conteudo(arquivo), "[s]\r\na=2\r\nb=1\r\n");
     EXPECT_EQ(pasta.Lista(), QStringList{QStringLiteral("x.ini")});
 }
 
-TEST(LoteIni, MakesItsWritesInWhatTheDiskHoldsNow)
+TEST(MudaIni, StartsOverWhereTheFileChangedMeanwhile)
 {
     PastaDeTeste pasta;
     const auto arquivo = pasta.Arquivo("x.ini", "[s]\r\na=1\r\n");
-    LoteIni lote(arquivo);
-    lote.Escreve(QStringLiteral("s"), a, QStringLiteral("2"));
-    pasta.Arquivo("x.ini", "[t]\r\nz=9\r\n[S]\r\nA=7\r\nb=8\r\n");
-    EXPECT_TRUE(lote.Grava());
-    EXPECT_EQ(pasta.Conteudo(arquivo), "[t]\r\nz=9\r\n[S]\r\nA=2\r\nb=8\r\n");
-
-    // What has been written is done: it is not made again over later changes.
-    pasta.Arquivo("x.ini", "[s]\r\na=5\r\n");
-    EXPECT_TRUE(lote.Grava());
-    lote.Escreve(QStringLiteral("s"), b, QStringLiteral("3"));
-    EXPECT_TRUE(lote.Grava());
-    EXPECT_EQ(pasta.Conteudo(arquivo), "[s]\r\na=5\r\nb=3\r\n");
+    const auto s = QStringLiteral("s");
+    int vezes = 0;
+    EXPECT_TRUE(MudaIni(arquivo, [&](LoteIni &lote) {
+        lote.Escreve(s, b, lote.Le(s, a) + u'!');
+        if (++vezes == 1) {
+            pasta.Arquivo("x.ini", "[t]\r\nz=9\r\n[S]\r\nA=7\r\nb=8\r\n");
+        }
+    }));
+    EXPECT_EQ(pasta.Conteudo(arquivo), "[t]\r\nz=9\r\n[S]\r\nA=7\r\nb=7!\r\n");
+    EXPECT_EQ(vezes, 2);
 }

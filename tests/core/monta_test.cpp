@@ -185,3 +185,18 @@ TEST_F(Monta, ABankDroppedOnItGetsASheetBesideIt)
     ExpectaRecusa(Roda(QStringLiteral("%")), QStringLiteral("não é um banco"));
     EXPECT_EQ(pasta.entryList({QStringLiteral("Folha-*")}), folhas);
 }
+
+#ifdef Q_OS_LINUX
+TEST_F(Monta, SaysWhenItsOutputCannotBeWritten)
+{
+    GravaBanco(BancoAcentuado());
+    QProcess processo;
+    processo.setStandardOutputFile(QStringLiteral("/dev/full"));
+    processo.start(QStringLiteral(QUADRELO_MONTA),
+                   {QStringLiteral("--banco"), m_pasta.filePath(QStringLiteral("João.tes")),
+                    QStringLiteral("--semente"), QStringLiteral("1")});
+    EXPECT_TRUE(processo.waitForFinished());
+    EXPECT_EQ(processo.exitCode(), 2);
+    EXPECT_TRUE(processo.readAllStandardError().startsWith("monta: "));
+}
+#endif

@@ -58,6 +58,15 @@ TEST(Ranking, MovesTheLowerPlacesDown)
     EXPECT_EQ(Tabela(arquivo), u"A 00:01:40;B 00:03:20;Zé 00:04:10;C 00:05:00;Y 00:06:39;");
 }
 
+TEST(Ranking, EntersBelowBetterTimesThatWereNotSeen)
+{
+    PastaDeTeste pasta;
+    const auto arquivo = Cheio(pasta);
+    EXPECT_TRUE(GravaLugar(arquivo, 1, QStringLiteral("Zé"), 450));
+    EXPECT_FALSE(GravaLugar(arquivo, 1, QStringLiteral("Y"), 451));
+    EXPECT_EQ(Tabela(arquivo), u"A 00:01:40;B 00:03:20;C 00:05:00;D 00:06:40;Zé 00:07:30;");
+}
+
 TEST(Ranking, PadsTheNewNameAndWritesEmptyPlaces)
 {
     PastaDeTeste pasta;

@@ -70,9 +70,12 @@ TEST(Slot, IsWrittenInItsOrderAndLeavesTheOthers)
 TEST(Slot, GivesItsNameWithoutBlanks)
 {
     PastaDeTeste pasta;
-    const auto nomes = NomesDosSlots(pasta.Arquivo(
-        "save.ini",
-        "[jogo1]\nNome=um  \n[jogo3]\nNome=   \n[jogo10]\nnome=\"dez\"\n[jogo11]\nNome=x"));
+    const auto nomes =
+        NomesDosSlots(
+            pasta.Arquivo(
+                "save.ini",
+                "[jogo1]\nNome=um  \n[jogo3]\nNome=   \n[jogo10]\nnome=\"dez\"\n[jogo11]\nNome=x"))
+            .nome;
     EXPECT_EQ(nomes[1], u"um");
     EXPECT_EQ(nomes[2] + nomes[3] + nomes[0], QString());
     EXPECT_EQ(nomes[10], u"dez");

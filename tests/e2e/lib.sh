@@ -21,14 +21,30 @@ die() {
   exit 1
 }
 
+# WM: the window manager, by default openbox; "none"; or "sway", a Wayland session inside the screen.
 start_screen() {
   mkfifo "$WORK/display"
-  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$WORK/display" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -ac 3>"$WORK/display" >/dev/null 2>&1 &
   PIDS+=($!)
   read -r number <"$WORK/display" || die "Xvfb does not start"
   export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$WORK
-  openbox >/dev/null 2>&1 &
+  case ${WM:=openbox} in
+    none) return ;;
+    sway) start_sway ;;
+    *) $WM >/dev/null 2>&1 & ;;
+  esac
   PIDS+=($!)
+}
+
+start_sway() {
+  local as=()
+  # It refuses to run as root.
+  [ "$(id -u)" = 0 ] && chown nobody "$WORK" && as=(setpriv --reuid=nobody --regid=nogroup --clear-groups)
+  printf '%s\n' 'output * resolution 1024x768' 'default_floating_border none' 'xwayland disable' \
+    'for_window [app_id=".*"] floating enable' >"$WORK/sway.conf"
+  WLR_BACKENDS=x11 WLR_RENDERER=pixman "${as[@]}" sway -c "$WORK/sway.conf" >/dev/null 2>&1 &
+  wait_for 10 "Wayland session" [ -S "$WORK/wayland-1" ]
+  export QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY=wayland-1
 }
 
 # Copies the portable folder $1 to $WORK/Quadrelo, starts the game there and waits for a board.
@@ -42,6 +58,8 @@ start_game() {
   GAME=$!
   PIDS+=("$GAME")
   wait_for 10 "a board" board_in_play
+  X=186 Y=134
+  [ "$WM" = sway ] && return
   WINDOW=$(xdotool search --onlyvisible --name '^Quadrelo$' | head -n 1)
   eval "$(xdotool getwindowgeometry --shell "$WINDOW" | grep -E '^(X|Y)=')"
 }
@@ -88,10 +106,64 @@ select_item() { click $((20 + 21 * ($1 - 1))) 460; }
 # The menu's entries from 0.
 menu() { click 580 $((60 + 40 * $1)); }
 
+# at DX DY: clicks there, from the screen's middle, where the small forms stand.
+at() { xdotool mousemove $((512 + $1)) $((384 + $2)) click 1; }
+slot() { at 0 $((-132 + 27 * ($1 - 1))); }
+
+ground() { count $SELECTED; }
+# A letter takes more of the cell's ground than the cursor, which blinks.
+written() { [ $(($1 - $(ground))) -ge 22 ]; }
+
+# window NAME WIDTH HEIGHT: the visible window of that title and size becomes the one that click goes to.
+window() {
+  local id geometry
+  for id in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
+    geometry=$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)
+    if [[ $geometry == *WIDTH=$2$'\n'HEIGHT=$3$'\n'* ]]; then
+      eval "$(grep -E '^(WINDOW|X|Y)=' <<<"$geometry")"
+      return 0
+    fi
+  done
+  return 1
+}
+no_window() { ! window "$@"; }
+main_window() { window Quadrelo 652 499; }
+
+# message: whether a box with a message is open. It has the main window's title, and no fixed size.
+message() {
+  local id height
+  for id in $(xdotool search --onlyvisible --name '^Quadrelo$' 2>/dev/null); do
+    height=$(xdotool getwindowgeometry --shell "$id" 2>/dev/null | sed -n 's/^HEIGHT=//p')
+    [ "${height:-0}" -gt 60 ] && [ "$height" -lt 300 ] && WINDOW=$id && return 0
+  done
+  return 1
+}
+
 # Without accents, in small letters.
 plain() { iconv -f CP1252 -t UTF-8 | sed 'y/ÇÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛÜ/CAEIOUAEIOUAOAEIOUU/' | tr 'A-Z' 'a-z'; }
 # ini FILE SECTION KEY: a value, plain.
 ini() {
   tr -d '\r' <"$1" | awk -v s="[$2]" -v k="$3=" \
     '$0 == s { in_it = 1; next } /^\[/ { in_it = 0 } in_it && index($0, k) == 1 { print substr($0, length(k) + 1) }' | plain
+}
+
+# solve FILE: types every word of slot 1 as the selection goes from item to item.
+solve() {
+  declare -A fixed=() solved=()
+  local i=1 left=26 k cell step word letters
+  while ((left > 0)); do
+    word=$(ini "$1" jogo1 "Palavra$i")
+    cell=$(ini "$1" jogo1 "Ponto$i")
+    [ "$(ini "$1" jogo1 "Sentido$i")" = h ] && step=1 || step=26
+    letters=
+    for ((k = 0; k < ${#word}; ++k, cell += step)); do
+      [ -n "${fixed[$cell]:-}" ] || letters+=${word:k:1}
+      fixed[$cell]=1
+    done
+    [ -n "$letters" ] && xdotool type --delay 12 "$letters"
+    solved[$i]=1
+    ((--left > 0)) || break
+    ((++i <= 26)) && [ -z "${solved[$i]:-}" ] && continue
+    for ((i = 1; i <= 26; ++i)); do [ -n "${solved[$i]:-}" ] || break; done
+  done
 }

@@ -9,31 +9,6 @@ export LC_ALL=C.UTF-8
 saved=$WORK/Quadrelo/Dados/save.ini
 ranking=$WORK/Quadrelo/Dados/Ranking.dat
 
-# window NAME WIDTH HEIGHT: the visible window of that title and size becomes the one that click goes to.
-window() {
-  local id geometry
-  for id in $(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null); do
-    geometry=$(xdotool getwindowgeometry --shell "$id" 2>/dev/null)
-    if [[ $geometry == *WIDTH=$2$'\n'HEIGHT=$3$'\n'* ]]; then
-      eval "$(grep -E '^(WINDOW|X|Y)=' <<<"$geometry")"
-      return 0
-    fi
-  done
-  return 1
-}
-no_window() { ! window "$@"; }
-main_window() { window Quadrelo 652 499; }
-
-# message: whether a box with a message is open. It has the main window's title, and no fixed size.
-message() {
-  local id height
-  for id in $(xdotool search --onlyvisible --name '^Quadrelo$' 2>/dev/null); do
-    height=$(xdotool getwindowgeometry --shell "$id" 2>/dev/null | sed -n 's/^HEIGHT=//p')
-    [ "${height:-0}" -gt 60 ] && [ "$height" -lt 300 ] && WINDOW=$id && return 0
-  done
-  return 1
-}
-
 # press KEY: in the window found last.
 press() {
   xdotool windowactivate --sync "$WINDOW" 2>/dev/null
@@ -80,27 +55,6 @@ clock() {
 differ() { [ "$(compare -metric AE -extract "$2x17+$1+0" "$3" "$4" null: 2>&1)" != 0 ]; }
 minutes_moved() { main_window && clock "$WORK/now.png" && differ 31 15 "$WORK/zero.png" "$WORK/now.png"; }
 
-# solve: types every word of slot 1 as the selection goes from item to item.
-solve() {
-  declare -A fixed=() solved=()
-  local i=1 left=26 k cell step word letters
-  while ((left > 0)); do
-    word=$(ini "$saved" jogo1 "Palavra$i")
-    cell=$(ini "$saved" jogo1 "Ponto$i")
-    [ "$(ini "$saved" jogo1 "Sentido$i")" = h ] && step=1 || step=26
-    letters=
-    for ((k = 0; k < ${#word}; ++k, cell += step)); do
-      [ -n "${fixed[$cell]:-}" ] || letters+=${word:k:1}
-      fixed[$cell]=1
-    done
-    [ -n "$letters" ] && xdotool type --delay 12 "$letters"
-    solved[$i]=1
-    ((--left > 0)) || break
-    ((++i <= 26)) && [ -z "${solved[$i]:-}" ] && continue
-    for ((i = 1; i <= 26; ++i)); do [ -n "${solved[$i]:-}" ] || break; done
-  done
-}
-
 # within A LOW HIGH
 within() { awk -v a="$1" -v b="$2" -v c="$3" 'BEGIN { exit !(a >= b && a < c) }'; }
 
@@ -111,7 +65,10 @@ save_as 1 primeiro
 before=$(ini "$saved" jogo1 Tempo)
 leave
 
+# What a writer that was killed leaves behind.
+: >"$saved.qWeRtY"
 start "$1"
+[ ! -e "$saved.qWeRtY" ] || die "a dead writer's file is still there"
 dialog 2 'Abrir Jogo'
 click 125 54
 wait_for 10 "notice of the price" message
@@ -130,7 +87,7 @@ within "$(awk "BEGIN { print $after - $before }")" 120 180 ||
 
 main_window
 xdotool windowactivate --sync "$WINDOW"
-solve
+solve "$saved"
 wait_for 5 "question for the player's name" window Ranking 282 99
 xdotool windowactivate --sync "$WINDOW"
 type_text Zoe

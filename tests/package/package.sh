@@ -35,6 +35,11 @@ tar -xzf "$archive" -C "$(dirname "$folder")"
     linux/{$id.desktop,$id.metainfo.xml,quadrelo.svg} linux/Icone{16,22,24,32,48,64,128,256}.png
 } | sort >"$work/wanted"
 diff "$work/wanted" "$work/found" || die "the package holds other files than it should"
+# The folder of the build holds all of it but what a desktop needs.
+grep -v -e /linux/ -e instalar.sh "$work/found" | while read -r file; do
+  cmp -s "$folder/$file" "$build/Quadrelo/$file" || [ "$file" = ./quadrelo ] || echo "$file"
+done >"$work/missing"
+[ ! -s "$work/missing" ] || die "the build's folder lacks $(cat "$work/missing")"
 [ -d "$folder/Dados" ] || die "the folder for what the game writes is missing"
 for program in quadrelo ferramentas/compila_banco ferramentas/monta; do
   readelf -S "$folder/$program" | grep -q '\.symtab' && die "$program is not stripped"

@@ -1,4 +1,5 @@
 #include "tests/ui/support/listener.h"
+#include "ui/main_form/splash.h"
 #include "ui/toolkit/message_box.h"
 
 #include <gtest/gtest.h>
@@ -293,6 +294,26 @@ TEST(Acessibilidade, WritesOnlyWhereTheCursorStands)
     EXPECT_TRUE(jogo.d().Item(1).ItemResolvido);
     EXPECT_EQ(Ouvinte::De(Comeco(jogo, 1)).text(QAccessible::Value), QString(palavra[0]));
     EXPECT_EQ(jogo.FaltaNoEstado(), QString());
+}
+
+TEST(Acessibilidade, BannerLeavesTheTreeWithItsSecond)
+{
+    const Ouvinte ouvinte;
+    JogoDeTeste jogo;
+    std::unique_ptr<Form1> principal;
+    FrmSplash banner(jogo.valores, jogo.Dialogo().ambiente, principal, toolkit::kDpiPadrao);
+    banner.Show();
+    QAccessibleInterface &aplicacao = *QAccessible::queryAccessibleInterface(qApp);
+    QAccessibleInterface *dele = QAccessible::queryAccessibleInterface(banner.Janela());
+    EXPECT_GE(aplicacao.indexOfChild(dele), 0);
+    EXPECT_EQ(banner.Janela()->windowType(), Qt::SplashScreen) << "it stands in the task bar";
+    for (int volta = 0; volta < 100 && banner.Janela() != nullptr; ++volta) {
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(banner.Janela(), nullptr);
+    for (int k = 0; k < aplicacao.childCount(); ++k) {
+        EXPECT_NE(aplicacao.child(k)->rect().size(), QSize(361, 90)) << k;
+    }
 }
 
 TEST(Acessibilidade, AddsNoTabStop)

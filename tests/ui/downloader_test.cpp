@@ -4,9 +4,13 @@
 
 #include "tests/ui/support/net_machine.h"
 #include "tests/ui/support/net_server.h"
+#include <atomic>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSslConfiguration>
+#include <QTest>
+#include <QThread>
 
 namespace {
 
@@ -52,7 +56,7 @@ private:
 
 } // namespace
 
-TEST_F(Baixador, GivesTheTextOfWholeRepliesAndNothingForTheRest)
+TEST_F(Baixador, GivesTheTextThatHasComeAndNothingForFailures)
 {
     struct Caso
     {
@@ -70,7 +74,9 @@ TEST_F(Baixador, GivesTheTextOfWholeRepliesAndNothingForTheRest)
         {"as long as can be", Diz(Http200(cheia)), cheia + "\r\n"},
         {"a byte too long", Diz(Http200(cheia + 'x')), ""},
         {"error page with fields", Diz(Http("500 Oh", "Content-Length: 5\r\n", "!*!ab")), ""},
-        {"cut", Diz(Http("200 OK", kLonga, "abc")), ""},
+        {"cut", Diz(Http("200 OK", kLonga, "abc")), "abc\r\n"},
+        {"cut without a byte", Diz(Http("200 OK", kLonga, "")), ""},
+        {"cut error page", Diz(Http("500 Oh", kLonga, "abc")), ""},
         {"cut before the reply", Diz(""), ""},
         {"no web server", Diz("220 ready\r\n"), ""},
         {"redirect to a file", Desvia(QStringLiteral("file:///etc/hostname")), ""},
@@ -159,6 +165,47 @@ TEST_F(Baixador, StopsAnEndlessReplyAtOnce)
     EXPECT_EQ(dl.Download(Endereco("/r"), maquina.PastaTemporaria() + u'x', {}),
               EstadoDL::Incompleto);
     EXPECT_FALSE(maquina.preso);
+}
+
+TEST_F(Baixador, StopsAFloodOfHeadersAtOnce)
+{
+    // On a thread of its own: in this one it would stop for as long as the game does.
+    QTcpServer servidorDeFora;
+    ASSERT_TRUE(servidorDeFora.listen(QHostAddress::LocalHost));
+    std::atomic<bool> desligado = false;
+    std::atomic<qint64> enviados = 0;
+    QThread fio;
+    QTcpSocket *ligacao = nullptr;
+    const QByteArray campos = QByteArray("X: 1\r\n").repeated(4096);
+    maquina.aCadaVolta = [&] {
+        if (ligacao == nullptr && (ligacao = servidorDeFora.nextPendingConnection()) != nullptr) {
+            ligacao->setParent(nullptr);
+            ligacao->moveToThread(&fio);
+            QObject::connect(ligacao, &QTcpSocket::bytesWritten, ligacao, [&](qint64 bytes) {
+                enviados += bytes;
+                ligacao->write(campos);
+            });
+            QObject::connect(ligacao, &QTcpSocket::disconnected, ligacao,
+                             [&] { desligado = true; });
+            QMetaObject::invokeMethod(ligacao,
+                                      [&] { ligacao->write("HTTP/1.1 200 OK\r\n" + campos); });
+            fio.start();
+        }
+        maquina.agora += enviados > (1 << 20) ? 1 : 0;
+    };
+    auto inundado =
+        std::make_unique<DL>(maquina.ambiente, [this] { return maquina.PastaTemporaria(); });
+    inundado->GetConteudo(QStringLiteral("http://127.0.0.1:%1/").arg(servidorDeFora.serverPort()));
+    EXPECT_FALSE(maquina.preso);
+    QElapsedTimer relogio;
+    relogio.start();
+    inundado.reset();
+    EXPECT_LT(relogio.elapsed(), 2'000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desligado.load(); }, 2'000)) << "the read goes on";
+    QMetaObject::invokeMethod(
+        ligacao, [&] { delete ligacao; }, Qt::BlockingQueuedConnection);
+    fio.quit();
+    fio.wait();
 }
 
 TEST_F(Baixador, GivesUpAStalledReadAndIsDeafFromThenOn)
@@ -251,6 +298,10 @@ TEST_F(Baixador, PutsADownloadInItsPlaceAndShowsHowItGrows)
     ASSERT_TRUE(arquivo.open(QIODevice::ReadOnly));
     EXPECT_EQ(arquivo.readAll(), corpo);
     EXPECT_TRUE(dl.Recebeu(destino));
+    QFile outro(destino + u'2');
+    ASSERT_TRUE(outro.open(QIODevice::WriteOnly));
+    EXPECT_EQ(arquivo.permissions(), outro.permissions());
+    EXPECT_TRUE(outro.remove());
     EXPECT_TRUE(std::is_sorted(partes.begin(), partes.end()));
     EXPECT_EQ(maquina.Arquivos(), QStringList{QStringLiteral("jogo.exe")});
 

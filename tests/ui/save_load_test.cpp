@@ -75,7 +75,7 @@ protected:
         Menu(kMenuAbrir);
     }
 
-    QString NomeNoSlot(int n) { return NomesDosSlots(Arquivo())[static_cast<size_t>(n)]; }
+    QString NomeNoSlot(int n) { return NomesDosSlots(Arquivo()).nome[static_cast<size_t>(n)]; }
     QString Arquivo() { return Dados(kArquivoJogos); }
 
     /// What a slot holds; a test with a slot that cannot be read has failed.
@@ -114,6 +114,8 @@ TEST_F(SaveLoad, SavesTheGameWithItsTimeWhileTheBoardIsInView)
     SalvaComo(3, QStringLiteral("Zé & Ção"));
 
     EXPECT_FALSE(algumDialogo);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(jogo.c().Text1(jogo.d().estado.Focus).TemFoco()) << "the keyboard is elsewhere";
     EXPECT_EQ(NomeNoSlot(3), QStringLiteral("Zé & Ção"));
     const JogoSalvo salvo = LeSalvo(3);
     EXPECT_NEAR(salvo.tempo, 300.25, 0.01);
@@ -144,6 +146,7 @@ TEST_F(SaveLoad, TakesNamesOfFourteenCharactersInWhateverWay)
         QInputMethodEvent evento;
         evento.setCommitString(QStringLiteral("ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛ"));
         QCoreApplication::sendEvent(form.focusWidget(), &evento);
+        QCoreApplication::processEvents();
     };
     const std::array casos = {
         Caso{"typed", [](auto &form) { Digita(form, QStringLiteral("abcdefghijklmnop")); },
@@ -199,6 +202,19 @@ TEST_F(SaveLoad, AsksBeforeItOverwritesAndOffersTheOldName)
     });
     EXPECT_TRUE(jogo.maquina.mensagens.isEmpty());
     EXPECT_EQ(NomeNoSlot(2), QStringLiteral("Sem nome 2"));
+}
+
+TEST_F(SaveLoad, SparesAGameThatTheListCouldNotShow)
+{
+    SalvaComo(2, QStringLiteral("velho"));
+    const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
+    // A folder stands there while the list is read.
+    ASSERT_TRUE(QFile::rename(Arquivo(), Dados(u"fora")) && QDir().mkdir(Arquivo()));
+    Salva(2, [this](toolkit::Form &form) {
+        ASSERT_TRUE(QDir().rmdir(Arquivo()) && QFile::rename(Dados(u"fora"), Arquivo()));
+        Enter(form);
+    });
+    EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
 }
 
 TEST_F(SaveLoad, ClosesWithoutEffectInEveryOtherWay)

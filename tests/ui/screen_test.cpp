@@ -2,13 +2,18 @@
 
 #include "ui/forms/control_table.h"
 #include "ui/forms/splash.h"
+#include "ui/toolkit/message_box.h"
 #include "ui/window/center_form.h"
 #include "ui/window/dpi_adjuster.h"
 #include "ui/window/window_shape.h"
 
 #include <gtest/gtest.h>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QBitmap>
+#include <QKeyEvent>
 #include <QScreen>
+#include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -36,6 +41,7 @@ TEST(AjustarDpi, PutsEveryControlOnItsPlaceOnTheBitmap)
         const QPoint longe = outro.form->Janela().pos() - normal.form->Janela().pos();
         EXPECT_LE(longe.manhattanLength(), 2) << "off the middle of the screen at " << dpi;
         EXPECT_NEAR(outro.c().Text1(300).Width(), 19, 0.001) << dpi;
+        EXPECT_FLOAT_EQ(outro.c().Picture3.Width(), outro.form->Janela().Width()) << dpi;
         const auto esperado = Lugares(normal.form->Janela());
         const auto lugares = Lugares(outro.form->Janela());
         ASSERT_EQ(lugares.size(), esperado.size());
@@ -99,6 +105,9 @@ TEST(RegiaoDaFigura, ComesFromTheDrawingOfTheScreen)
         const QImage coberta = figura.Coberta(kChave).ParaEscala(escala).toImage();
         EXPECT_NE(coberta.pixel(0, 0) & RGB_MASK, kChave & RGB_MASK) << escala;
         EXPECT_EQ(*RegiaoDaFigura(coberta, kChave), QRegion(coberta.rect())) << escala;
+        const QImage vazada = figura.Vazada(kChave).ParaEscala(escala).toImage();
+        const QRegion opaca(QBitmap::fromImage(vazada.createAlphaMask()));
+        EXPECT_EQ(opaca, *RegiaoDaFigura(figura.ParaEscala(escala).toImage(), kChave)) << escala;
     }
 }
 
@@ -114,4 +123,24 @@ TEST(CentralizaForm, KeepsTheTitleStripOnAScreenThatIsTooSmall)
                  static_cast<float>(tela.height() + 100) * 15);
     CentralizaForm(form);
     EXPECT_EQ(form.pos(), tela.topLeft());
+}
+
+TEST(MostraMensagem, GivesTheKeyboardBackAndIsNotAnsweredByAKeyHeldDown)
+{
+    toolkit::Form dona(toolkit::Moldura::Nenhuma, toolkit::kDpiPadrao);
+    dona.SetSize(3000, 1500);
+    dona.Show();
+    QCoreApplication::processEvents();
+    bool aberta = false;
+    QTimer::singleShot(0, &dona, [&aberta] {
+        QWidget *caixa = QApplication::activeModalWidget();
+        QKeyEvent repetida(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+        QApplication::sendEvent(caixa->focusWidget(), &repetida);
+        aberta = caixa->isVisible();
+        QTest::keyClick(caixa->focusWidget(), Qt::Key_Return);
+    });
+    EXPECT_EQ(toolkit::MostraMensagem({}, {QStringLiteral("?"), Botoes::SimNao}), Resposta::Sim);
+    EXPECT_TRUE(aberta);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(dona.isActiveWindow());
 }

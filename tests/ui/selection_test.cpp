@@ -45,6 +45,16 @@ TEST(Selecao, AlternatesOnCrossingsAcrossTheWholeBoard)
     EXPECT_EQ(jogo.d().estado.item, um.itens.segundo) << "a double click counts as two clicks";
 }
 
+TEST(Selecao, TakesTheSecondPressOfADoubleClickForAClickOnAnotherNumber)
+{
+    JogoDeTeste jogo;
+    jogo.Comeca();
+    jogo.Seleciona(3);
+    QTest::mouseDClick(jogo.c().Lbt(5).Widget(), Qt::LeftButton);
+    QTest::mouseRelease(jogo.c().Lbt(5).Widget(), Qt::LeftButton);
+    EXPECT_EQ(jogo.d().estado.item, 5);
+}
+
 TEST(Selecao, WipesTheItemThatIsLeftAndMarksTheNewOne)
 {
     JogoDeTeste jogo;

@@ -119,6 +119,7 @@ TEST_F(JanelaDeBaixar, CanBeCancelledInEveryWay)
             // The bar shows a percentage of 50 before the player loses patience.
             if (pelaMetade && ++voltas == 2) {
                 EXPECT_TRUE(janela->isVisible());
+                EXPECT_FALSE(QFile::exists(NaPasta("jogo.exe"))) << "a game killed now leaves it";
                 modo(*janela);
             }
         };

@@ -36,6 +36,7 @@ constexpr std::array kFiguras = {
     Figura{u"ImgHintDire", {14, 28}, TipoFigura::Translucida, PintaImgHintDire},
     Figura{u"ImgHintDire2", {12, 13}, TipoFigura::Translucida, PintaImgHintDire2},
     Figura{u"Jogo", {70, 118}, TipoFigura::Opaca, PintaJogo},
+    Figura{u"Pergunta", {32, 32}, TipoFigura::Translucida, PintaPergunta},
     Figura{u"Mao", {32, 32}, TipoFigura::Translucida, PintaMao},
     Icone<16>(u"Icone16"),
     Icone<22>(u"Icone22"),

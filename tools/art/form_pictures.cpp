@@ -26,10 +26,10 @@ constexpr double kCaixaLado = 18;
 constexpr double kRelogioX = 563;
 constexpr double kRelogioLargura = 76;
 
-// The rows of the list dialogs lie midway between the labels of the two forms that share the
-// picture.
+// The rows of the list dialogs lie midway between the names of the two forms that share the
+// picture: those of the one stand three pixels lower than those of the other.
 constexpr int kLugares = 10;
-constexpr double kListaY = 39;
+constexpr double kListaY = 38;
 constexpr double kListaPasso = 27;
 
 /// The panel behind the menu, sunk into the body.

@@ -1,7 +1,9 @@
+#include "core/files/whole_file.h"
 #include "tools/art/catalogue.h"
 #include "tools/art/icon.h"
 
 #include <cstdio>
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 
@@ -9,16 +11,21 @@ namespace {
 
 bool Grava(const QString &arquivo, const QByteArray &bytes)
 {
-    QFile saida(arquivo);
-    return saida.open(QIODevice::WriteOnly) && saida.write(bytes) == bytes.size();
+    return TrocaArquivo(arquivo, bytes) == Troca::Feita;
+}
+
+bool GravaFigura(const QString &arquivo, const QImage &imagem)
+{
+    QBuffer png;
+    return imagem.save(&png, "PNG") && Grava(arquivo, png.data());
 }
 
 bool GravaTudo(const QDir &pasta)
 {
     for (const Figura &figura : Figuras()) {
         for (int escala = 1; escala <= figura.escalas; ++escala) {
-            if (!DesenhaFigura(figura, escala)
-                     .save(pasta.filePath(NomeArquivo(figura, escala)), "PNG")) {
+            if (!GravaFigura(pasta.filePath(NomeArquivo(figura, escala)),
+                             DesenhaFigura(figura, escala))) {
                 return false;
             }
         }

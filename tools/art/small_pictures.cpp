@@ -99,6 +99,20 @@ void PintaJogo(QPainter &p)
     }
 }
 
+void PintaPergunta(QPainter &p)
+{
+    Retangulo(p, {1, 2, 30, 30}, 15, kMarinho, kMarinho);
+    Retangulo(p, {1, 1, 30, 30}, 15, kFaixaLuz, kMoldura);
+    Retangulo(p, {2, 2, 28, 28}, 14, kFaixaCima, kFaixaBaixo);
+    QPainterPath gancho;
+    gancho.arcMoveTo({11, 7, 10, 10}, 180);
+    gancho.arcTo({11, 7, 10, 10}, 180, -235);
+    gancho.quadTo(16, 17.5, 16, 20.5);
+    p.strokePath(gancho, QPen(QColor(kBranco), 3, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    // Square, as the dots of the lettering are.
+    p.fillRect(QRectF(14.5, 22, 3, 3), QColor(kBranco));
+}
+
 void PintaMao(QPainter &p)
 {
     p.setRenderHint(QPainter::Antialiasing, false);

@@ -11,6 +11,8 @@ void PintaImage1(QPainter &p);
 void PintaImgHintDire(QPainter &p);
 void PintaImgHintDire2(QPainter &p);
 void PintaJogo(QPainter &p);
+/// The sign of a message that asks.
+void PintaPergunta(QPainter &p);
 /// The hand pointer, black and white without in-between tones. Its hot spot, the tip of the
 /// finger, is kPontoMao of the pictures' header.
 void PintaMao(QPainter &p);

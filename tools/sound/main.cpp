@@ -1,3 +1,4 @@
+#include "core/files/whole_file.h"
 #include "tools/sound/sounds.h"
 
 #include <cstdio>
@@ -13,9 +14,8 @@ int main(int argc, char **argv)
     }
     const QDir pasta(QFile::decodeName(argv[1]));
     for (const Som &som : Sons()) {
-        QFile arquivo(pasta.filePath(som.nome.toString()));
-        const QByteArray bytes = ArquivoWav(Sintetiza(som));
-        if (!arquivo.open(QIODevice::WriteOnly) || arquivo.write(bytes) != bytes.size()) {
+        const QString arquivo = pasta.filePath(som.nome.toString());
+        if (TrocaArquivo(arquivo, ArquivoWav(Sintetiza(som))) != Troca::Feita) {
             std::fprintf(stderr, "faz_sons: cannot write into %s\n", argv[1]);
             return 1;
         }

@@ -119,7 +119,8 @@ std::vector<double> Sintetiza(const Som &som)
 
 QByteArray ArquivoWav(std::span<const double> amostras)
 {
-    const auto tamanho = static_cast<quint32>(amostras.size() * 2);
+    const auto silencio = static_cast<size_t>(kSilencioFinal * kAmostrasPorSegundo);
+    const auto tamanho = static_cast<quint32>((amostras.size() + silencio) * 2);
     QByteArray bytes;
     QDataStream saida(&bytes, QIODevice::WriteOnly);
     saida.setByteOrder(QDataStream::LittleEndian);
@@ -133,5 +134,5 @@ QByteArray ArquivoWav(std::span<const double> amostras)
     for (const double amostra : amostras) {
         saida << static_cast<qint16>(std::lround(std::clamp(amostra, -1.0, 1.0) * 32767));
     }
-    return bytes;
+    return bytes.append(static_cast<qsizetype>(silencio * 2), '\0');
 }

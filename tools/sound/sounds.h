@@ -42,5 +42,9 @@ std::span<const Som> Sons();
 /// be heard; the first and the last sample are 0.
 std::vector<double> Sintetiza(const Som &som);
 
-/// `amostras` as a WAV file: PCM, 16 bits, one channel.
+/// Seconds of silence behind every sound in its file: a sound server drops up to so much of a
+/// stream that ends, and what it drops is not missed then.
+inline constexpr double kSilencioFinal = 0.3;
+
+/// `amostras` and the silence behind them as a WAV file: PCM, 16 bits, one channel.
 QByteArray ArquivoWav(std::span<const double> amostras);

@@ -343,7 +343,7 @@ ControlesForm1::ControlesForm1(toolkit::Form &dono)
       ImgR(dono, Acha<toolkit::Image>(dono, u"ImgR", 0), nullptr, kItens)
 {
     for (int k = 0; k < static_cast<int>(Label3.size()); ++k) {
-        Label3[static_cast<size_t>(k)] = &Acha<toolkit::Label>(dono, u"Label3", k);
+        Label3[k] = &Acha<toolkit::Label>(dono, u"Label3", k);
     }
 }
 

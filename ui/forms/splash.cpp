@@ -36,7 +36,7 @@ constexpr std::array kControles = {
 
 } // namespace
 
-const DefForm kFrmSplash = {u"FrmSplash", u"Quadrelo", toolkit::Moldura::Nenhuma, 5415, 1350,
+const DefForm kFrmSplash = {u"FrmSplash", u"Quadrelo", toolkit::Moldura::Abertura, 5415, 1350,
                             u"FrmSplash", kControles};
 
 } // namespace forms

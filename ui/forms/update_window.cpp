@@ -1,5 +1,7 @@
 #include "ui/forms/update_window.h"
 
+#include "ui/forms/dialog_parts.h"
+
 #include <array>
 
 namespace forms {
@@ -8,18 +10,16 @@ namespace {
 
 using toolkit::Familia;
 
+constexpr Contorno kContorno = {.titulo = u"Atualização",
+                                .lugarDoTitulo = {180, 90, 1575, 345},
+                                .tiraDeArrasto = {60, 60, 3675, 360},
+                                .zonaDeFechar = {3870, 60, 345, 315},
+                                .ajustadorLeft = 3720,
+                                .ajustadorTop = 630};
+
 constexpr std::array kControles = {
-    DefControle{.tipo = Tipo::Label,
-                .nome = u"Label1",
-                .left = 180,
-                .top = 90,
-                .width = 1575,
-                .height = 345,
-                .texto = u"Atualização",
-                .fonte = {Familia::ArialBlack, 12},
-                .cor = toolkit::kBranco,
-                .transparente = true,
-                .autoSize = true},
+    TiraDeArrasto(kContorno),
+    Titulo(kContorno),
     DefControle{.tipo = Tipo::Label,
                 .nome = u"Label2",
                 .left = 270,
@@ -43,24 +43,8 @@ constexpr std::array kControles = {
                 .width = 1080,
                 .height = 360,
                 .texto = u"Cancelar"},
-    DefControle{.tipo = Tipo::Image,
-                .nome = u"Image3",
-                .left = 60,
-                .top = 60,
-                .width = 3675,
-                .height = 360},
-    DefControle{.tipo = Tipo::Image,
-                .nome = u"Image1",
-                .left = 3870,
-                .top = 60,
-                .width = 345,
-                .height = 315},
-    DefControle{.tipo = Tipo::Helper,
-                .nome = u"PPP1",
-                .left = 3720,
-                .top = 630,
-                .width = 615,
-                .height = 555},
+    ZonaDeFechar(kContorno),
+    Ajustador(kContorno),
 };
 
 } // namespace

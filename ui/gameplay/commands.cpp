@@ -19,12 +19,12 @@ PedidoMensagem SemJogo()
 
 void Comandos::Label3_MouseDown(int Index)
 {
-    d.c.Label3[static_cast<size_t>(Index)]->SetBorderStyle(1);
+    d.c.Label3[Index]->SetBorderStyle(1);
 }
 
 void Comandos::Label3_MouseUp(int Index)
 {
-    d.c.Label3[static_cast<size_t>(Index)]->SetBorderStyle(0);
+    d.c.Label3[Index]->SetBorderStyle(0);
 }
 
 void Comandos::Label3_Click(int Index)

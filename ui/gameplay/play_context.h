@@ -14,18 +14,12 @@ struct ContextoJogo
     forms::ControlesForm1 &c;
     Ambiente &ambiente;
 
-    [[nodiscard]] CelulaQuadrado &Quadrado(int i) const
-    {
-        return tabuleiro.Quadrado[static_cast<size_t>(i)];
-    }
-    [[nodiscard]] RegistroItem &Item(int n) const
-    {
-        return tabuleiro.ItemPalavra[static_cast<size_t>(n)];
-    }
+    [[nodiscard]] CelulaQuadrado &Quadrado(int i) const { return tabuleiro.Quadrado[i]; }
+    [[nodiscard]] RegistroItem &Item(int n) const { return tabuleiro.ItemPalavra[n]; }
     /// Whether cell `i` belongs to a word; False for a number that is no cell.
     [[nodiscard]] bool Ocupada(int i) const
     {
-        return i >= 1 && i <= kCelulas && tabuleiro.Ocupada[static_cast<size_t>(i)];
+        return i >= 1 && i <= kCelulas && tabuleiro.Ocupada[i];
     }
 };
 

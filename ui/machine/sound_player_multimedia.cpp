@@ -11,6 +11,15 @@
 
 namespace {
 
+using Efeito = std::unique_ptr<QSoundEffect>;
+
+Efeito CriaEfeito(const QString &arquivo)
+{
+    auto efeito = std::make_unique<QSoundEffect>();
+    efeito->setSource(QUrl::fromLocalFile(arquivo));
+    return efeito;
+}
+
 /// The sounds of a run. Without an audio device none are loaded; a device that comes later is
 /// noticed at the next sound.
 class Tocador
@@ -25,34 +34,35 @@ public:
         QLoggingCategory::setFilterRules(QStringLiteral("qt.multimedia*=false"));
     }
 
+    /// Every sound has an effect of its own: one that is played again and again gets less of its
+    /// sound out each time, and at last nothing (Qt 6.4).
     void Toca(const QString &arquivo)
     {
         Carrega();
-        for (const auto &efeito : m_efeitos) {
-            efeito.second->stop();
-        }
-        if (const auto achado = m_efeitos.find(arquivo); achado != m_efeitos.end()) {
-            achado->second->play();
+        m_tocando.reset();
+        if (m_carregados.contains(arquivo)) {
+            m_tocando = CriaEfeito(arquivo);
+            m_tocando->play();
         }
     }
 
 private:
     void Carrega()
     {
-        if (!m_efeitos.empty() || QMediaDevices::defaultAudioOutput().isNull()) {
+        if (!m_carregados.empty() || QMediaDevices::defaultAudioOutput().isNull()) {
             return;
         }
         for (const QString &arquivo : m_arquivos) {
             if (QFile::exists(arquivo)) {
-                auto efeito = std::make_unique<QSoundEffect>();
-                efeito->setSource(QUrl::fromLocalFile(arquivo));
-                m_efeitos.emplace(arquivo, std::move(efeito));
+                m_carregados.emplace(arquivo, CriaEfeito(arquivo));
             }
         }
     }
 
     QStringList m_arquivos;
-    std::map<QString, std::unique_ptr<QSoundEffect>> m_efeitos;
+    /// Never played: they keep the samples in memory, which all effects of a file share.
+    std::map<QString, Efeito> m_carregados;
+    Efeito m_tocando;
 };
 
 } // namespace

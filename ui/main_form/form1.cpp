@@ -1,6 +1,7 @@
 #include "ui/main_form/form1.h"
 
 #include "assets/pictures.h"
+#include "core/files/whole_file.h"
 #include "core/registry/screen_dpi.h"
 #include "ui/records/load_form.h"
 #include "ui/records/ranking_check.h"
@@ -50,6 +51,9 @@ Form1::Form1(ValoresPrograma &valores, Ambiente &ambiente, int dpi)
 void Form1::Form_Load()
 {
     m_valores.SomLigado = true;
+    for (const auto *nome : {kArquivoUsadas, kArquivoJogos, kArquivoRanking}) {
+        LimpaRestos(Caminho(m_valores.PastaDados, nome));
+    }
     LeUsadas(m_memoria, Caminho(m_valores.PastaDados, kArquivoUsadas));
     DaForma(m_form, m_valores);
     CentralizaForm(m_form);
@@ -141,7 +145,7 @@ void Form1::LigaBalao()
 void Form1::LigaComandos()
 {
     for (int k = 0; k < static_cast<int>(m_c.Label3.size()); ++k) {
-        toolkit::Label &entrada = *m_c.Label3[static_cast<size_t>(k)];
+        toolkit::Label &entrada = *m_c.Label3[k];
         entrada.Click = [this, k] { m_comandos.Label3_Click(k); };
         entrada.MouseDown = [this, k](const toolkit::Mouse &) { m_comandos.Label3_MouseDown(k); };
         entrada.MouseUp = [this, k](const toolkit::Mouse &) { m_comandos.Label3_MouseUp(k); };

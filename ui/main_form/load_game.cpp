@@ -73,7 +73,7 @@ void CargaJogo::MostraEspera()
 void CargaJogo::DeitaItens(const JogoSalvo &salvo)
 {
     for (int i = 1; i <= kItens; ++i) {
-        const RegistroItem &item = salvo.itens[static_cast<size_t>(i)];
+        const RegistroItem &item = salvo.itens[i];
         d.Item(i).ItemResolvido = item.ItemResolvido;
         Carrega_Palavra(d.tabuleiro, m_salas.vista,
                         {item.Palavra, item.Ponto, item.Sentido, item.Dica, item.ItemResolvido});

@@ -7,6 +7,8 @@
 #include "ui/window/center_form.h"
 #include "ui/window/dpi_adjuster.h"
 
+#include <QTimer>
+
 namespace {
 
 constexpr int kEsperaMs = 1000;
@@ -21,25 +23,37 @@ FrmSplash::FrmSplash(ValoresPrograma &valores, Ambiente &ambiente,
     : m_valores(valores),
       m_ambiente(ambiente),
       m_principal(principal),
-      m_form(toolkit::Moldura::Nenhuma, dpi)
+      m_form(new toolkit::Form(forms::kFrmSplash.moldura, dpi))
 {
-    forms::Define(m_form, forms::kFrmSplash);
-    m_form.Activate = [this] { Form_Activate(); };
+    forms::Define(*m_form, forms::kFrmSplash);
     Form_Load();
+}
+
+FrmSplash::~FrmSplash()
+{
+    delete m_form;
+}
+
+void FrmSplash::Show()
+{
+    m_form->Show();
+    // Qt lets events run while it shows such a window; a handler that ends with the window's end
+    // must not run inside that.
+    QTimer::singleShot(0, m_form, [this] { Form_Activate(); });
 }
 
 void FrmSplash::Form_Load()
 {
     if (LeAppliedDPI(m_valores) != toolkit::kDpiPadrao) {
-        auto &medida = forms::Acha<toolkit::PictureBox>(m_form, u"Picture1");
-        medida.SetPicture(m_form.GetPicture());
-        if (medida.Width() != m_form.Width() || medida.Height() != m_form.Height()) {
+        auto &medida = forms::Acha<toolkit::PictureBox>(*m_form, u"Picture1");
+        medida.SetPicture(m_form->GetPicture());
+        if (medida.Width() != m_form->Width() || medida.Height() != m_form->Height()) {
             m_valores.DpiDiferente = true;
-            AjustarDpi(m_form);
+            AjustarDpi(*m_form);
         }
     }
-    CentralizaForm(m_form);
-    forms::Acha<toolkit::Label>(m_form, u"Label3").SetCaption(TextoVersao());
+    CentralizaForm(*m_form);
+    forms::Acha<toolkit::Label>(*m_form, u"Label3").SetCaption(TextoVersao());
 }
 
 /// Lets events run until the banner is there to be seen: a system can call a window active before
@@ -48,7 +62,7 @@ void FrmSplash::Form_Load()
 void FrmSplash::MostraBanner()
 {
     m_ambiente.deixaEventos();
-    for (int volta = 0; volta < kVoltasBanner && !m_form.Pintada(); ++volta) {
+    for (int volta = 0; volta < kVoltasBanner && !m_form->Pintada(); ++volta) {
         m_ambiente.dorme(kVoltaMs);
         m_ambiente.deixaEventos();
     }
@@ -57,14 +71,15 @@ void FrmSplash::MostraBanner()
 
 void FrmSplash::Form_Activate()
 {
-    m_form.Activate = nullptr;
     MostraBanner();
     m_ambiente.dorme(kEsperaMs);
     m_ambiente.deixaEventos();
-    m_principal = std::make_unique<Form1>(m_valores, m_ambiente, m_form.Dpi());
+    m_principal = std::make_unique<Form1>(m_valores, m_ambiente, m_form->Dpi());
     m_ambiente.deixaEventos();
     m_principal->Show();
-    m_form.Unload();
+    m_form->Unload();
+    // A window that is only hidden would stay in the screen reader's tree. This is its own handler.
+    m_form->deleteLater();
 }
 
 void FixaValores(ValoresPrograma &valores, const QString &pastaDoPrograma)

@@ -5,6 +5,7 @@
 #include "ui/toolkit/form.h"
 
 #include <memory>
+#include <QPointer>
 
 class Form1;
 
@@ -17,9 +18,13 @@ public:
     /// The main form is put into `principal`. `dpi`: the screen's dots per inch.
     FrmSplash(ValoresPrograma &valores, Ambiente &ambiente, std::unique_ptr<Form1> &principal,
               int dpi);
+    ~FrmSplash();
+    Q_DISABLE_COPY_MOVE(FrmSplash)
 
-    void Show() { m_form.Show(); }
-    [[nodiscard]] toolkit::Form &Janela() { return m_form; }
+    /// Shows the banner; what follows runs from the program's event loop.
+    void Show();
+    /// The banner's window, or null once it has gone.
+    [[nodiscard]] toolkit::Form *Janela() { return m_form; }
 
 private:
     void Form_Load();
@@ -29,7 +34,7 @@ private:
     ValoresPrograma &m_valores;
     Ambiente &m_ambiente;
     std::unique_ptr<Form1> &m_principal;
-    toolkit::Form m_form;
+    QPointer<toolkit::Form> m_form;
 };
 
 /// The title and the two directories, from the program's directory as the system reports it: a

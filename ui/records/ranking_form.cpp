@@ -24,7 +24,7 @@ void FrmHanking::Form_Load()
         return forms::Acha<toolkit::Label>(m_form, coluna, p);
     };
     for (int p = 1; p <= kLugares; ++p) {
-        const LinhaRanking &linha = linhas[static_cast<size_t>(p)];
+        const LinhaRanking &linha = linhas[p];
         label(u"Label1", p).SetCaption(u'0' + QString::number(p));
         label(u"Label2", p).SetCaption(linha.Tempo);
         label(u"Label3", p).SetCaption(linha.Nome);

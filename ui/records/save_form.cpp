@@ -35,5 +35,8 @@ void FrmSalvar::PedeNome(int n)
     if (!m_lista.Livre(n)) {
         nome.OfereceNome(m_lista.Legenda(n));
     }
+    if (!m_lista.Lida()) {
+        nome.PoupaOcupado();
+    }
     nome.ShowModal();
 }

@@ -66,7 +66,10 @@ void FrmSalvar2::SalvarJogo(int n, const QString &NomeJogo)
     if (m_tabuleiro.QtdItens < kItens) {
         return;
     }
+    const QString arquivo = Caminho(d.valores.PastaDados, kArquivoJogos);
+    if (m_poupaOcupado && !NomesDosSlots(arquivo).nome[n].isEmpty()) {
+        return;
+    }
     const double tempo = std::clamp(d.ambiente.Agora() - d.valores.HoraInicio, 0.0, kMaximoDoTempo);
-    SalvaSlot(Caminho(d.valores.PastaDados, kArquivoJogos), n, NomeJogo, m_tabuleiro, tempo,
-              QLocale::system().decimalPoint());
+    SalvaSlot(arquivo, n, NomeJogo, m_tabuleiro, tempo, QLocale::system().decimalPoint());
 }

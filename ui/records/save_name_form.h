@@ -15,6 +15,8 @@ public:
 
     /// Puts a name into the field, selected, so that typing replaces it.
     void OfereceNome(const QString &nome) { m_text1.SetText(nome); }
+    /// Saves only if the slot is free when the time has come: the player has not been asked.
+    void PoupaOcupado() { m_poupaOcupado = true; }
     /// Shows the dialog and waits until it is closed.
     void ShowModal() { m_form.ShowModal(&d.dona); }
 
@@ -29,4 +31,5 @@ private:
     toolkit::Form m_form;
     toolkit::TextBox &m_text1;
     toolkit::Label &m_label3;
+    bool m_poupaOcupado = false;
 };

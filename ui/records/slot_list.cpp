@@ -43,8 +43,9 @@ void ListaSlots::Form_Load()
     DaForma(m_form, d.valores);
     CentralizaForm(m_form);
     const auto nomes = NomesDosSlots(Caminho(d.valores.PastaDados, kArquivoJogos));
+    m_lida = nomes.lidos;
     for (int n = 1; n <= kSlots; ++n) {
-        const QString &nome = nomes[static_cast<size_t>(n)];
+        const QString &nome = nomes.nome[n];
         LbSave(m_form, n).SetCaption(nome.isEmpty() ? m_vazio : nome);
     }
     if (d.valores.DpiDiferente) {

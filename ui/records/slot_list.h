@@ -23,6 +23,8 @@ public:
     /// Whether slot `n` counts as free. The caption alone decides, so a game that is named like a
     /// free slot counts as one.
     [[nodiscard]] bool Livre(int n) const { return Legenda(n) == m_vazio; }
+    /// Whether the file could be read. Where it could not, every slot looks free.
+    [[nodiscard]] bool Lida() const { return m_lida; }
 
     /// A click on label `Index`: a slot, or kLbCancelar.
     std::function<void(int Index)> LbSave_Click;
@@ -36,4 +38,5 @@ private:
     toolkit::Form m_form;
     /// Label last under the mouse, 0 before the first. It stays coloured until another one is.
     int m_sobLbSave = 0;
+    bool m_lida = true;
 };

@@ -64,18 +64,15 @@ private:
     Control &m_dono;
 };
 
-/// Makes forms, controls and announcements known to the system's accessibility interface. Needs the
-/// application object; once more does nothing.
-void InstalaAcessibilidade();
+/// A window whose controls tell it that they look different: it tells assistive technology what
+/// reads differently now, once the event at hand is dealt with.
+class JanelaDeControles
+{
+public:
+    virtual void AvisaMudanca() = 0;
 
-/// Tells assistive technology which of the names, descriptions and states that it has read in
-/// `janela` are no longer the same.
-void ContaMudancas(const QWidget &janela);
-
-/// Whether a click of the player in the middle of `widget` would reach it: it shows, nothing lies
-/// over it there, and no modal window keeps the player from its window.
-bool RecebeClique(const QWidget &widget);
-/// The same, where no heed is paid to modal windows.
-bool EstaDescoberto(const QWidget &widget);
+protected:
+    ~JanelaDeControles() = default;
+};
 
 } // namespace toolkit

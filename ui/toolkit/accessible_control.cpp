@@ -144,35 +144,6 @@ private:
 
 } // namespace
 
-int LeituraWidget::childCount() const
-{
-    return static_cast<int>(FilhosLidos(*widget()).size());
-}
-
-QAccessibleInterface *LeituraWidget::child(int indice) const
-{
-    const QWidgetList filhos = FilhosLidos(*widget());
-    return indice < 0 || indice >= filhos.size()
-               ? nullptr
-               : QAccessible::queryAccessibleInterface(filhos[indice]);
-}
-
-int LeituraWidget::indexOfChild(const QAccessibleInterface *filho) const
-{
-    return filho == nullptr ? -1
-                            : static_cast<int>(FilhosLidos(*widget()).indexOf(filho->object()));
-}
-
-QAccessibleInterface *LeituraWidget::childAt(int x, int y) const
-{
-    QWidget *em = widget()->childAt(widget()->mapFromGlobal(QPoint(x, y)));
-    const QWidgetList filhos = FilhosLidos(*widget());
-    while (em != nullptr && em != widget() && !filhos.contains(em)) {
-        em = em->parentWidget();
-    }
-    return em == nullptr || em == widget() ? nullptr : QAccessible::queryAccessibleInterface(em);
-}
-
 QAccessibleInterface *LeituraControle::parent() const
 {
     return QAccessible::queryAccessibleInterface(PaiLido(*widget()));

@@ -1,35 +1,13 @@
 #pragma once
 
 #include "ui/toolkit/accessible.h"
+#include "ui/toolkit/accessible_tree.h"
 
 #include <optional>
-#include <QAccessibleWidget>
 
-/// The accessibility interfaces of controls, for ui/toolkit/accessible.cpp alone.
+/// The accessibility interfaces of controls, made by the factory alone.
 
 namespace toolkit {
-
-/// Whether `widget` can be found in the tree of its window.
-bool EstaNaArvore(const QWidget &widget);
-/// What lies in `dentro`, in reading order; controls that are Papel::Nenhum give way to what lies
-/// in them.
-QWidgetList FilhosLidos(const QWidget &dentro);
-/// The container that `widget` counts as lying in; null for a window without an owner.
-QWidget *PaiLido(const QWidget &widget);
-/// Presses and releases the left button in the middle of `widget`.
-void Clica(QWidget &widget);
-
-/// A widget whose children are those of FilhosLidos.
-class LeituraWidget : public QAccessibleWidget
-{
-public:
-    explicit LeituraWidget(QWidget &widget) : QAccessibleWidget(&widget) {}
-
-    [[nodiscard]] int childCount() const override;
-    [[nodiscard]] QAccessibleInterface *child(int indice) const override;
-    int indexOfChild(const QAccessibleInterface *filho) const override;
-    [[nodiscard]] QAccessibleInterface *childAt(int x, int y) const override;
-};
 
 /// A control. Remembers what it has said, so that it can tell what has changed.
 class LeituraControle : public LeituraWidget

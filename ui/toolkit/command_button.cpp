@@ -1,5 +1,7 @@
 #include "ui/toolkit/command_button.h"
 
+#include "ui/toolkit/keyboard.h"
+
 #include <QPushButton>
 
 namespace toolkit {
@@ -30,6 +32,11 @@ void CommandButton::SetDefault(bool padrao)
 void CommandButton::Aciona()
 {
     m_botao->click();
+}
+
+bool CommandButton::eventFilter(QObject *alvo, QEvent *evento)
+{
+    return TeclaRepetida(*evento) || Control::eventFilter(alvo, evento);
 }
 
 void CommandButton::MostraAspecto()

@@ -21,6 +21,8 @@ public:
 
 protected:
     void MostraAspecto() override;
+    /// A key held down, perhaps since the form before, does not press it.
+    bool eventFilter(QObject *alvo, QEvent *evento) override;
     [[nodiscard]] bool ConsomeMouse() const override { return false; }
 
 private:

@@ -1,7 +1,5 @@
 #include "ui/toolkit/control.h"
 
-#include "ui/toolkit/form.h"
-
 #include <QAccessible>
 #include <QMouseEvent>
 #include <utility>
@@ -172,7 +170,7 @@ Papel Control::PapelAtual() const
 void Control::AvisaMudanca() const
 {
     if (QAccessible::isActive()) {
-        if (auto *form = dynamic_cast<Form *>(m_widget->window())) {
+        if (auto *form = dynamic_cast<JanelaDeControles *>(m_widget->window())) {
             form->AvisaMudanca();
         }
     }
@@ -216,7 +214,8 @@ bool Control::TrataMouse(QEvent *evento)
 {
     const auto *mouse = static_cast<QMouseEvent *>(evento);
     const bool esquerdo = mouse->button() == Qt::LeftButton;
-    if (evento->type() == QEvent::MouseButtonPress && esquerdo) {
+    const bool duplo = evento->type() == QEvent::MouseButtonDblClick;
+    if (esquerdo && (duplo || evento->type() == QEvent::MouseButtonPress)) {
         m_lugarDoAperto = mouse->globalPosition().toPoint();
     }
     const Mouse dados{mouse->buttons() | mouse->button(), mouse->position().toPoint(),
@@ -232,12 +231,15 @@ bool Control::TrataMouse(QEvent *evento)
     };
     switch (evento->type()) {
     case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        // The second press of a double click is reported as such and not as a press. It is one
+        // more press wherever nobody asks for double clicks.
+        if (duplo && DblClick) {
+            chama(DblClick);
+            break;
+        }
         m_apertado = m_apertado || esquerdo;
         chama(MouseDown, dados);
-        break;
-    case QEvent::MouseButtonDblClick:
-        // The second press of a double click is reported as such and not as a press.
-        chama(DblClick);
         break;
     case QEvent::MouseButtonRelease: {
         const bool clicado = m_apertado && esquerdo && m_widget->rect().contains(dados.lugar);

@@ -102,6 +102,7 @@ public:
     [[nodiscard]] const Origem &GetOrigem() const { return m_origem; }
 
     std::function<void()> Click;
+    /// The second press of a double click. Without a handler it is a press like any other.
     std::function<void()> DblClick;
     std::function<void()> GotFocus;
     std::function<void(const Mouse &)> MouseDown;

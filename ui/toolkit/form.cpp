@@ -1,12 +1,13 @@
 #include "ui/toolkit/form.h"
 
+#include "ui/toolkit/accessible_factory.h"
 #include "ui/toolkit/command_button.h"
+#include "ui/toolkit/keyboard.h"
 #include "ui/toolkit/window_region.h"
 
 #include <algorithm>
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
@@ -20,9 +21,16 @@ namespace {
 
 Qt::WindowFlags Bandeiras(Moldura moldura)
 {
-    return moldura == Moldura::Nenhuma ? Qt::Window | Qt::FramelessWindowHint
-                                       : Qt::Dialog | Qt::CustomizeWindowHint |
-                                             Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+    switch (moldura) {
+    case Moldura::Abertura:
+        return Qt::SplashScreen | Qt::FramelessWindowHint;
+    case Moldura::Ferramenta:
+        return Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+               Qt::WindowCloseButtonHint;
+    case Moldura::Nenhuma:
+        break;
+    }
+    return Qt::Window | Qt::FramelessWindowHint;
 }
 
 } // namespace
@@ -163,44 +171,18 @@ void Form::Unload()
     }
 }
 
-void Form::Pega()
-{
-    m_moveSistema = windowHandle() != nullptr && windowHandle()->startSystemMove();
-}
-
-void Form::Arrasta(const Mouse &mouse)
-{
-    if (m_aperto != mouse.aperto) {
-        m_aperto = mouse.aperto;
-        m_pegada = mouse.aperto - pos();
-        // Some systems let nobody but themselves move a window.
-        if (!m_moveSistema &&
-            QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
-            Pega();
-        }
-    }
-    if (!m_moveSistema) {
-        move(mouse.global - m_pegada);
-    }
-}
-
-void Form::Solta()
-{
-    m_aperto.reset();
-    m_moveSistema = false;
-}
-
 void Form::SetWindowRgn(const std::function<QRegion(qreal)> &regiao, QRgb chave)
 {
     m_regiao = regiao;
-    m_pintura = m_picture.Coberta(chave);
+    setAttribute(Qt::WA_TranslucentBackground, JanelasCompostas());
+    m_pintura = JanelasCompostas() ? m_picture.Vazada(chave) : m_picture.Coberta(chave);
     Recorta();
 }
 
 void Form::Recorta()
 {
     if (m_regiao && windowHandle() != nullptr) {
-        RecortaJanela(*windowHandle(), m_regiao(devicePixelRatioF()));
+        RecortaJanela(*windowHandle(), m_regiao);
     }
 }
 
@@ -297,6 +279,14 @@ void Form::showEvent(QShowEvent *evento)
             DisparaActivate();
         }
     });
+}
+
+void Form::hideEvent(QHideEvent *evento)
+{
+    QWidget::hideEvent(evento);
+    if (!evento->spontaneous()) {
+        DevolveTeclado(*this);
+    }
 }
 
 void Form::DisparaActivate()

@@ -3,9 +3,9 @@
 #include "ui/toolkit/control.h"
 #include "ui/toolkit/picture.h"
 #include "ui/toolkit/picture_box.h"
+#include "ui/toolkit/window_drag.h"
 
 #include <memory>
-#include <optional>
 #include <QWidget>
 #include <vector>
 
@@ -13,14 +13,15 @@ class QEventLoop;
 
 namespace toolkit {
 
-/// The frame of a form: none (the form is its bitmap), or a tool window's with a title bar.
-enum class Moldura { Nenhuma, Ferramenta };
+/// The frame of a form: none (the form is its bitmap), none and no place in the task bar either, or
+/// a tool window's with a title bar.
+enum class Moldura { Nenhuma, Abertura, Ferramenta };
 
 /// A window of the game. Lengths are in twips at the screen's DPI; there is no frame but a tool
 /// window's, so outer size and client size are the same for the others.
 ///
 /// Owns its controls, in the order of their creation.
-class Form : public QWidget
+class Form : public QWidget, public JanelaDeControles
 {
 public:
     /// `dpi`: dots per inch that a twip counts by.
@@ -74,23 +75,14 @@ public:
     /// Closes the form and ends the wait of ShowModal.
     void Unload();
 
-    /// The left button has gone down on a drag strip: lets the system move the window with the
-    /// pointer, as if its title bar had been grabbed, if it can. From the press on, so that the
-    /// window goes exactly the mouse's way.
-    void Pega();
-    /// Moves the window with the pointer where the system does not. To be called at each movement
-    /// with the left button down.
-    void Arrasta(const Mouse &mouse);
-    /// The button is no longer down: a later press takes hold of the window anew.
-    void Solta();
+    /// Moves the window with the pointer.
+    [[nodiscard]] Arrasto &GetArrasto() { return m_arrasto; }
     /// Cuts the window to a region. `regiao` gives it in device pixels for a screen of `escala`
     /// device pixels to the pixel; an empty one leaves the window a rectangle. `chave` is the
     /// colour of the picture's pixels that lie outside: they are never shown.
     void SetWindowRgn(const std::function<QRegion(qreal escala)> &regiao, QRgb chave);
 
-    /// One of its controls looks different: assistive technology is told what reads differently
-    /// now, once the event at hand is dealt with.
-    void AvisaMudanca();
+    void AvisaMudanca() override;
 
     /// Fires when the form becomes the active window, the first time at the latest when it is
     /// shown.
@@ -118,6 +110,7 @@ protected:
     void keyPressEvent(QKeyEvent *evento) override;
     void closeEvent(QCloseEvent *evento) override;
     void showEvent(QShowEvent *evento) override;
+    void hideEvent(QHideEvent *evento) override;
     bool event(QEvent *evento) override;
 
 private:
@@ -133,10 +126,7 @@ private:
     /// The picture as it is painted, without the key colour.
     Picture m_pintura;
     std::function<QRegion(qreal)> m_regiao;
-    /// The press that the drag under way goes back to, and where it holds the window.
-    std::optional<QPoint> m_aperto;
-    QPoint m_pegada;
-    bool m_moveSistema = false;
+    Arrasto m_arrasto{*this};
     float m_left = 0;
     float m_top = 0;
     float m_width = 0;

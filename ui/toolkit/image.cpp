@@ -44,10 +44,13 @@ void Image::CopiaDe(const Image &molde)
 
 void Image::Pinta(QPainter &pintor, QSize tamanho)
 {
+    if (m_borda != 0) {
+        pintor.setClipRect(AreaDaMoldura(pintor, tamanho));
+    }
     if (!m_picture.IsNull()) {
         const QRect natural(QPoint(), m_picture.Tamanho());
         const QRect alvo = m_stretch ? QRect(QPoint(), tamanho) : natural;
-        pintor.setRenderHint(QPainter::SmoothPixmapTransform, alvo.size() != natural.size());
+        pintor.setRenderHint(QPainter::SmoothPixmapTransform);
         pintor.drawPixmap(alvo, m_picture.ParaEscala(pintor.device()->devicePixelRatioF()));
     }
     if (m_borda != 0) {

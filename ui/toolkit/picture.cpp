@@ -32,6 +32,16 @@ QImage Cobre(QImage imagem, QRgb cor)
     return imagem;
 }
 
+QImage Vaza(const QImage &imagem, QRgb cor)
+{
+    QImage vazada = imagem.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < vazada.height(); ++y) {
+        auto *linha = reinterpret_cast<QRgb *>(vazada.scanLine(y));
+        std::replace(linha, linha + vazada.width(), cor, qRgba(0, 0, 0, 0));
+    }
+    return vazada;
+}
+
 QImage Carrega(const QString &nome, size_t vezes)
 {
     constexpr std::array sufixos = {u"", u"@2x", u"@3x"};
@@ -49,10 +59,20 @@ Picture::Picture(const QString &nome)
 
 Picture Picture::Coberta(QRgb cor) const
 {
-    Picture coberta;
-    coberta.m_conteudo = std::make_shared<Conteudo>(
-        Conteudo{m_conteudo->nome, Cobre(m_conteudo->pixels, cor), cor, {}});
-    return coberta;
+    return Tratada([cor](const QImage &imagem) { return Cobre(imagem, cor); });
+}
+
+Picture Picture::Vazada(QRgb cor) const
+{
+    return Tratada([cor](const QImage &imagem) { return Vaza(imagem, cor); });
+}
+
+Picture Picture::Tratada(const std::function<QImage(QImage)> &trato) const
+{
+    Picture tratada;
+    tratada.m_conteudo = std::make_shared<Conteudo>(
+        Conteudo{m_conteudo->nome, trato(m_conteudo->pixels), trato, {}});
+    return tratada;
 }
 
 const QPixmap &Picture::ParaEscala(qreal escala) const
@@ -65,13 +85,21 @@ const QPixmap &Picture::ParaEscala(qreal escala) const
     }
     if (desenhos[k].isNull()) {
         QImage imagem = k == 0 ? m_conteudo->pixels : Carrega(m_conteudo->nome, k);
-        if (k > 0 && m_conteudo->coberta) {
-            imagem = Cobre(imagem, *m_conteudo->coberta);
+        if (k > 0 && m_conteudo->trato) {
+            imagem = m_conteudo->trato(imagem);
         }
         desenhos[k] = QPixmap::fromImage(imagem);
         desenhos[k].setDevicePixelRatio(static_cast<qreal>(k) + 1);
     }
     return desenhos[k];
+}
+
+QPixmap Picture::NoTamanhoDe(qreal escala) const
+{
+    QPixmap desenho = ParaEscala(escala).scaled((QSizeF(Tamanho()) * escala).toSize(),
+                                                Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    desenho.setDevicePixelRatio(escala);
+    return desenho;
 }
 
 QCursor Ponteiro(const Picture &figura, QPoint ponta)

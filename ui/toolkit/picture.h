@@ -1,8 +1,8 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
-#include <optional>
 #include <QCursor>
 #include <QImage>
 #include <QPixmap>
@@ -29,16 +29,23 @@ public:
     /// The same picture with the pixels of exactly the colour `cor` painted over by their
     /// neighbours in the row.
     [[nodiscard]] Picture Coberta(QRgb cor) const;
+    /// The same picture with the pixels of exactly the colour `cor` transparent.
+    [[nodiscard]] Picture Vazada(QRgb cor) const;
     /// The drawing that is sharp on a screen of `escala` device pixels to the pixel: the smallest
     /// that is large enough. Its devicePixelRatio is its own scale.
     [[nodiscard]] const QPixmap &ParaEscala(qreal escala) const;
+    /// That drawing brought to exactly `escala`, for those who show it without smoothing.
+    [[nodiscard]] QPixmap NoTamanhoDe(qreal escala) const;
 
 private:
+    [[nodiscard]] Picture Tratada(const std::function<QImage(QImage)> &trato) const;
+
     struct Conteudo
     {
         QString nome;
         QImage pixels;
-        std::optional<QRgb> coberta;
+        /// What each drawing goes through once it is loaded, if anything.
+        std::function<QImage(QImage)> trato;
         std::array<QPixmap, 3> desenhos;
     };
 

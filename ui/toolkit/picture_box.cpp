@@ -8,7 +8,7 @@ namespace toolkit {
 
 PictureBox::PictureBox(const Origem &origem) : PaintedControl(origem)
 {
-    // The ground covers all of the box, so nothing below it has to be painted.
+    // The ground covers all of a box without a border, so nothing below it has to be painted.
     Widget()->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -34,12 +34,17 @@ void PictureBox::Refresh()
 void PictureBox::SetPicture(const Picture &picture)
 {
     m_picture = picture;
-    if (m_autoSize && !picture.IsNull()) {
-        const float porPixel = GetOrigem().porPixel;
-        Move(Left(), Top(), static_cast<float>(picture.Tamanho().width()) * porPixel,
-             static_cast<float>(picture.Tamanho().height()) * porPixel);
-    }
+    TomaTamanhoNatural();
     MostraAspecto();
+}
+
+void PictureBox::TomaTamanhoNatural()
+{
+    if (m_autoSize && !m_picture.IsNull()) {
+        const float porPixel = GetOrigem().porPixel;
+        Move(Left(), Top(), static_cast<float>(m_picture.Tamanho().width()) * porPixel,
+             static_cast<float>(m_picture.Tamanho().height()) * porPixel);
+    }
 }
 
 void PictureBox::SetAutoSize(bool autoSize)
@@ -50,6 +55,7 @@ void PictureBox::SetAutoSize(bool autoSize)
 void PictureBox::SetBorderStyle(int borda)
 {
     m_borda = borda;
+    Widget()->setAttribute(Qt::WA_OpaquePaintEvent, borda == 0);
     MostraAspecto();
 }
 
@@ -68,12 +74,15 @@ void PictureBox::CopiaDe(const PictureBox &molde)
     m_picture = molde.m_picture;
     m_autoSize = molde.m_autoSize;
     m_escalaPixels = molde.m_escalaPixels;
-    m_borda = molde.m_borda;
+    SetBorderStyle(molde.m_borda);
     CopiaBase(molde);
 }
 
 void PictureBox::Pinta(QPainter &pintor, QSize tamanho)
 {
+    if (m_borda != 0) {
+        pintor.setClipRect(AreaDaMoldura(pintor, tamanho));
+    }
     pintor.fillRect(QRect(QPoint(), tamanho), BackColor());
     if (!m_picture.IsNull()) {
         pintor.drawPixmap(QRect(QPoint(), m_picture.Tamanho()),

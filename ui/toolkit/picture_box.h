@@ -24,6 +24,8 @@ public:
     void SetPicture(const Picture &picture);
     /// The box takes its picture's size.
     void SetAutoSize(bool autoSize);
+    /// Takes it again, after the box has been given another one.
+    void TomaTamanhoNatural();
     /// 0: no border; 1: a thin line round the box.
     void SetBorderStyle(int borda);
     /// What lies in the box counts in pixels, not in twips.

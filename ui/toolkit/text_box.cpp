@@ -1,11 +1,14 @@
 #include "ui/toolkit/text_box.h"
 
+#include "ui/toolkit/keyboard.h"
 #include "ui/toolkit/thin_frame.h"
 
 #include <algorithm>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 
 namespace toolkit {
@@ -26,7 +29,14 @@ QString SemControles(QString texto)
 class TextBox::Campo final : public QLineEdit, public WidgetDeControle
 {
 public:
-    Campo(QWidget *pai, TextBox &dono) : QLineEdit(pai), WidgetDeControle(dono) { setFrame(false); }
+    Campo(QWidget *pai, TextBox &dono) : QLineEdit(pai), WidgetDeControle(dono)
+    {
+        setFrame(false);
+        // The ground that the line edit paints by itself knows nothing of the frame.
+        QPalette cores = palette();
+        cores.setColor(QPalette::Base, Qt::transparent);
+        setPalette(cores);
+    }
 
     bool celula = false;
 
@@ -36,20 +46,31 @@ public:
 protected:
     void paintEvent(QPaintEvent *evento) override
     {
+        QPainter fundo(this);
+        fundo.fillRect(AreaDaMoldura(fundo, size()), Dono().BackColor());
+        fundo.end();
         QLineEdit::paintEvent(evento);
-        QPainter pintor(this);
-        PintaMoldura(pintor, size(), kPreto);
+        QPainter moldura(this);
+        PintaMoldura(moldura, size(), kPreto);
+    }
+
+    void inputMethodEvent(QInputMethodEvent *evento) override
+    {
+        if (evento->commitString().isEmpty() || evento->replacementLength() != 0) {
+            QLineEdit::inputMethodEvent(evento);
+            return;
+        }
+        QInputMethodEvent semTexto(evento->preeditString(), evento->attributes());
+        QLineEdit::inputMethodEvent(&semTexto);
+        DigitaComposto(*window(), evento->commitString());
     }
 
     void contextMenuEvent(QContextMenuEvent *evento) override
     {
         // A press on a cell has just moved the cursor: the menu must act where the cursor is.
-        auto *foco = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-        if (!celula || foco == this) {
-            QLineEdit::contextMenuEvent(evento);
-        } else if (foco != nullptr) {
-            QContextMenuEvent copia(evento->reason(), foco->rect().center(), evento->globalPos());
-            QApplication::sendEvent(foco, &copia);
+        auto *foco = celula ? qobject_cast<QLineEdit *>(QApplication::focusWidget()) : this;
+        if (foco != nullptr) {
+            MostraMenu(*foco, evento->globalPos());
         }
     }
 
@@ -60,6 +81,21 @@ protected:
         } else {
             evento->ignore();
         }
+    }
+
+private:
+    /// The system's menu with those of its entries that can act; none where there are none.
+    static void MostraMenu(QLineEdit &campo, QPoint lugar)
+    {
+        QMenu *menu = campo.createStandardContextMenu();
+        bool age = false;
+        for (QAction *entrada : menu->actions()) {
+            const bool serve = entrada->isEnabled() && !entrada->isSeparator();
+            entrada->setVisible(serve || entrada->isSeparator());
+            age = age || serve;
+        }
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        age ? menu->popup(lugar) : menu->deleteLater();
     }
 };
 
@@ -137,7 +173,6 @@ void TextBox::CopiaDe(const TextBox &molde)
 void TextBox::MostraAspecto()
 {
     QPalette cores = m_campo->palette();
-    cores.setColor(QPalette::Base, BackColor());
     cores.setColor(QPalette::Text, ForeColor());
     if (cores != m_campo->palette()) {
         m_campo->setPalette(cores);

@@ -23,23 +23,36 @@ struct Eixo
     [[nodiscard]] qreal Espessura() const { return std::max(1.0, std::floor(escala)) / escala; }
 };
 
+Eixo Horizontal(const QTransform &t)
+{
+    return {t.dx(), t.m11()};
+}
+
+Eixo Vertical(const QTransform &t)
+{
+    return {t.dy(), t.m22()};
+}
+
 } // namespace
+
+QRectF AreaDaMoldura(const QPainter &pintor, QSize tamanho)
+{
+    const Eixo x = Horizontal(pintor.deviceTransform());
+    const Eixo y = Vertical(pintor.deviceTransform());
+    return {QPointF(x.Inicio(0), y.Inicio(0)),
+            QPointF(x.Inicio(tamanho.width() - 1) + x.Espessura(),
+                    y.Inicio(tamanho.height() - 1) + y.Espessura())};
+}
 
 void PintaMoldura(QPainter &pintor, QSize tamanho, QColor cor)
 {
-    const QTransform t = pintor.deviceTransform();
-    const Eixo x{t.dx(), t.m11()};
-    const Eixo y{t.dy(), t.m22()};
-    const qreal esquerda = x.Inicio(0);
-    const qreal topo = y.Inicio(0);
-    const qreal direita = x.Inicio(tamanho.width() - 1);
-    const qreal base = y.Inicio(tamanho.height() - 1);
-    const qreal largura = direita + x.Espessura() - esquerda;
-    const qreal altura = base + y.Espessura() - topo;
-    pintor.fillRect(QRectF(esquerda, topo, largura, y.Espessura()), cor);
-    pintor.fillRect(QRectF(esquerda, base, largura, y.Espessura()), cor);
-    pintor.fillRect(QRectF(esquerda, topo, x.Espessura(), altura), cor);
-    pintor.fillRect(QRectF(direita, topo, x.Espessura(), altura), cor);
+    const QRectF area = AreaDaMoldura(pintor, tamanho);
+    const QSizeF emPe(Horizontal(pintor.deviceTransform()).Espessura(), area.height());
+    const QSizeF deitada(area.width(), Vertical(pintor.deviceTransform()).Espessura());
+    pintor.fillRect(QRectF(area.topLeft(), deitada), cor);
+    pintor.fillRect(QRectF(QPointF(area.left(), area.bottom() - deitada.height()), deitada), cor);
+    pintor.fillRect(QRectF(area.topLeft(), emPe), cor);
+    pintor.fillRect(QRectF(QPointF(area.right() - emPe.width(), area.top()), emPe), cor);
 }
 
 } // namespace toolkit

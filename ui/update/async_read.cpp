@@ -1,6 +1,7 @@
 #include "ui/update/async_read.h"
 
 #include <QDir>
+#include <QNetworkProxyFactory>
 #include <QNetworkReply>
 #include <utility>
 
@@ -26,6 +27,25 @@ QNetworkRequest PedidoHttp(const QUrl &url)
     return pedido;
 }
 
+/// The way to a server that the system names, and for the straight way one that ends up the same.
+/// For the straight way by name Qt takes the bytes of a header one by one off the system, and hears
+/// no request to stop for as long as the server sends; on any other way it takes what is there, and
+/// listens.
+class CaminhoComMemoria : public QNetworkProxyFactory
+{
+public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery &pergunta) override
+    {
+        QList<QNetworkProxy> caminhos = proxyForQuery(pergunta);
+        for (QNetworkProxy &caminho : caminhos) {
+            if (caminho.type() == QNetworkProxy::NoProxy) {
+                caminho = QNetworkProxy(QNetworkProxy::DefaultProxy);
+            }
+        }
+        return caminhos;
+    }
+};
+
 qint64 Total(const QNetworkReply &resposta)
 {
     return resposta.header(QNetworkRequest::ContentLengthHeader).toLongLong();
@@ -48,7 +68,10 @@ std::optional<QUrl> EnderecoDaRede(const QString &endereco)
     return url.isValid() && daRede && !url.host().isEmpty() ? std::optional(url) : std::nullopt;
 }
 
-LeiturasAssincronas::LeiturasAssincronas() = default;
+LeiturasAssincronas::LeiturasAssincronas()
+{
+    m_rede.setProxyFactory(new CaminhoComMemoria);
+}
 
 LeiturasAssincronas::~LeiturasAssincronas()
 {
@@ -70,7 +93,7 @@ void LeiturasAssincronas::Comeca(const PedidoDeLeitura &pedido)
     if (!url || !leitura.arquivo->open()) {
         // Nobody expects an event inside the call that starts the read.
         QMetaObject::invokeMethod(
-            this, [this, sID] { Encerra(sID, false); }, Qt::QueuedConnection);
+            this, [this, sID] { Encerra(sID, Resultado::Falha); }, Qt::QueuedConnection);
         return;
     }
     leitura.resposta = m_rede.get(PedidoHttp(*url));
@@ -88,7 +111,7 @@ void LeiturasAssincronas::AoChegarem(const QString &sID)
 {
     Leitura &leitura = m_leituras.at(sID);
     if (Guarda(leitura) == Passo::Falha) {
-        Encerra(sID, false);
+        Encerra(sID, Resultado::Falha);
     } else if (Progresso) {
         Progresso(sID, leitura.bytes, Total(*leitura.resposta));
     }
@@ -104,9 +127,14 @@ void LeiturasAssincronas::AoTerminar(const QString &sID)
         return;
     }
     const Leitura &leitura = achada->second;
+    if (!StatusBom(*leitura.resposta)) {
+        Encerra(sID, Resultado::Falha);
+        return;
+    }
     const qint64 total = Total(*leitura.resposta);
-    Encerra(sID, leitura.resposta->error() == QNetworkReply::NoError &&
-                     StatusBom(*leitura.resposta) && (total == 0 || total == leitura.bytes));
+    const bool inteira = leitura.resposta->error() == QNetworkReply::NoError &&
+                         (total == 0 || total == leitura.bytes);
+    Encerra(sID, inteira ? Resultado::Inteira : Resultado::Cortada);
 }
 
 /// Puts what has come of a reply into its file.
@@ -128,7 +156,7 @@ LeiturasAssincronas::Passo LeiturasAssincronas::Guarda(Leitura &leitura)
     return Passo::Segue;
 }
 
-void LeiturasAssincronas::Encerra(const QString &sID, bool inteira)
+void LeiturasAssincronas::Encerra(const QString &sID, Resultado resultado)
 {
     auto no = m_leituras.extract(sID);
     if (no.empty()) {
@@ -137,11 +165,11 @@ void LeiturasAssincronas::Encerra(const QString &sID, bool inteira)
     Leitura &leitura = no.mapped();
     Solta(leitura);
     // A disk that is full may show only now.
-    if (!inteira || !leitura.arquivo->flush()) {
+    if (resultado == Resultado::Falha || !leitura.arquivo->flush()) {
         leitura.arquivo.reset();
     }
     if (Fim) {
-        Fim(sID, leitura.arquivo.get(), leitura.bytes);
+        Fim(sID, {leitura.arquivo.get(), leitura.bytes, resultado == Resultado::Inteira});
     }
 }
 

@@ -27,11 +27,22 @@ struct PedidoDeLeitura
     qint64 maximo = 0;
 };
 
+/// How a read has ended.
+struct FimDaLeitura
+{
+    /// What has come, or null if the read failed. Removed behind the event unless the handler turns
+    /// its autoRemove off.
+    QTemporaryFile *arquivo = nullptr;
+    qint64 bytes = 0;
+    /// The reply came to its end; it was not cut off.
+    bool inteira = false;
+};
+
 /// Reads web addresses into temporary files while the windows go on living.
 ///
 /// Each read asks for a fresh copy, follows at most five redirects, never to a less safe scheme,
-/// and takes a secure server only with a certificate that the system trusts. What is not a whole
-/// reply of status 2xx is a failure, whatever the reason. No temporary file outlasts its read.
+/// and takes a secure server only with a certificate that the system trusts. What is no reply of
+/// status 2xx is a failure, whatever the reason. No temporary file outlasts its read.
 class LeiturasAssincronas : public QObject
 {
 public:
@@ -47,9 +58,8 @@ public:
 
     /// Data have come: bytes read so far, and bytes expected or 0 where the server does not say.
     std::function<void(const QString &sID, qint64 bytes, qint64 total)> Progresso;
-    /// The read has ended: its temporary file, or null if the read failed, and the bytes read. The
-    /// file is removed behind the event unless the handler turns its autoRemove off.
-    std::function<void(const QString &sID, QTemporaryFile *arquivo, qint64 bytes)> Fim;
+    /// The read has ended.
+    std::function<void(const QString &sID, const FimDaLeitura &fim)> Fim;
 
 private:
     struct Leitura
@@ -60,12 +70,13 @@ private:
         qint64 maximo = 0;
     };
     enum class Passo { Segue, Falha };
+    enum class Resultado { Inteira, Cortada, Falha };
 
     void LigaEventos(const QString &sID, const QNetworkReply *resposta);
     void AoChegarem(const QString &sID);
     void AoTerminar(const QString &sID);
     Passo Guarda(Leitura &leitura);
-    void Encerra(const QString &sID, bool inteira);
+    void Encerra(const QString &sID, Resultado resultado);
     void Solta(Leitura &leitura);
 
     QNetworkAccessManager m_rede;

@@ -40,8 +40,8 @@ DL::DL(Ambiente &ambiente, std::function<QString()> pastaTemporaria)
     m_leituras.Progresso = [this](const QString &sID, qint64 bytes, qint64 total) {
         UserControl_AsyncReadProgress(sID, bytes, total);
     };
-    m_leituras.Fim = [this](const QString &sID, QTemporaryFile *arquivo, qint64 bytes) {
-        UserControl_AsyncReadComplete(sID, arquivo, bytes);
+    m_leituras.Fim = [this](const QString &sID, const FimDaLeitura &fim) {
+        UserControl_AsyncReadComplete(sID, fim);
     };
 }
 
@@ -51,7 +51,7 @@ QString DL::GetConteudo(const QString &sWWWFile, const QString &sID, int TimeOut
     const QString destino = pasta + QStringLiteral("temp01.dat");
     Comeca({sWWWFile, sID, pasta, kMaximoDoTexto}, destino, TimeOut);
     // Any end will do, also one that counts as incomplete: a reply of unknown length always does.
-    if (!EsperaFim({}) || !Recebeu(destino)) {
+    if (!EsperaFim({}) || m_recebido != destino) {
         return {};
     }
     QString texto = LeTexto(destino);
@@ -134,17 +134,18 @@ void DL::UserControl_AsyncReadProgress(const QString &sID, qint64 bytes, qint64 
     m_ultimaAtividade = m_ambiente.Agora();
 }
 
-void DL::UserControl_AsyncReadComplete(const QString &sID, QTemporaryFile *arquivo, qint64 bytes)
+void DL::UserControl_AsyncReadComplete(const QString &sID, const FimDaLeitura &fim)
 {
     if (m_abandonado) {
         return;
     }
     const auto destino = m_destinos.extract(sID);
-    if (arquivo != nullptr && !destino.empty()) {
-        Move(*arquivo, destino.mapped());
+    if (fim.arquivo != nullptr && !destino.empty()) {
+        Move(*fim.arquivo, destino.mapped());
     }
+    m_inteira = fim.inteira;
     if (Completed) {
-        Completed(bytes, sID);
+        Completed(fim.bytes, sID);
     }
     // Last, so that the wait finds the file in its place. A read that failed counts as complete
     // where the share was above 99, be it from an earlier request.
@@ -153,8 +154,14 @@ void DL::UserControl_AsyncReadComplete(const QString &sID, QTemporaryFile *arqui
 
 void DL::Move(QTemporaryFile &arquivo, const QString &destino)
 {
-    QFile::remove(destino);
-    if (arquivo.rename(destino)) {
+    // A temporary file is its owner's alone; this one gets the mode that the system gives a new
+    // one.
+    QFile lugar(destino);
+    lugar.remove();
+    const bool livre = lugar.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    const auto modo = lugar.permissions();
+    if (livre && lugar.remove() && arquivo.rename(destino)) {
+        arquivo.setPermissions(modo);
         arquivo.setAutoRemove(false);
         m_recebido = destino;
     }

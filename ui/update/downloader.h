@@ -39,7 +39,8 @@ public:
     DL(Ambiente &ambiente, std::function<QString()> pastaTemporaria);
 
     /// Fetches `sWWWFile` and gives back its text, each line with CR LF behind it; "" if there is
-    /// none. A reply above 64 KiB counts as none. `TimeOut` is in seconds.
+    /// none. Of a reply that is cut off it is what has come; one above 64 KiB counts as none.
+    /// `TimeOut` is in seconds.
     QString GetConteudo(const QString &sWWWFile, const QString &sID = kNomeDaLeitura.toString(),
                         int TimeOut = kTempoLimiteS);
 
@@ -54,7 +55,10 @@ public:
     void CancelDownload(const QString &sID = kNomeDaLeitura.toString());
 
     /// Whether the last request has put a whole reply into `arquivo`.
-    [[nodiscard]] bool Recebeu(const QString &arquivo) const { return m_recebido == arquivo; }
+    [[nodiscard]] bool Recebeu(const QString &arquivo) const
+    {
+        return m_inteira && m_recebido == arquivo;
+    }
     [[nodiscard]] EstadoDL Estado() const { return m_estado; }
     /// Share received at the last sign of life, 0 to 100. A new request does not clear it.
     [[nodiscard]] int Percentual() const { return m_percentual; }
@@ -73,15 +77,16 @@ private:
     bool EsperaFim(const std::function<void(int)> &objprogress);
     void DaUmaVolta();
     void UserControl_AsyncReadProgress(const QString &sID, qint64 bytes, qint64 total);
-    void UserControl_AsyncReadComplete(const QString &sID, QTemporaryFile *arquivo, qint64 bytes);
+    void UserControl_AsyncReadComplete(const QString &sID, const FimDaLeitura &fim);
     void Move(QTemporaryFile &arquivo, const QString &destino);
 
     Ambiente &m_ambiente;
     std::function<QString()> m_pastaTemporaria;
     LeiturasAssincronas m_leituras;
     std::map<QString, QString> m_destinos;
-    /// File that the last request has filled, "" while there is none.
+    /// File that the last request has filled, "" while there is none, and whether with all.
     QString m_recebido;
+    bool m_inteira = false;
     int m_tempoLimite = kTempoLimiteS;
     double m_ultimaAtividade = 0;
     int m_percentual = 0;

@@ -8,6 +8,7 @@
 #include "ui/toolkit/progress_bar.h"
 #include "ui/window/dpi_adjuster.h"
 #include "ui/window/window_shape.h"
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -58,32 +59,35 @@ void FrmBaixar::Form_Load()
 
 FrmBaixar::Fim FrmBaixar::Baixa(const QString &endereco, const QString &pasta, QWidget *dona)
 {
-    m_arquivo = ReservaArquivo(pasta, NomeDeArquivo(endereco));
-    if (m_arquivo.isEmpty()) {
-        return Fim::Falhou;
-    }
-    MostraNome();
+    const QString nome = NomeDeArquivo(endereco);
+    MostraNome(nome);
+    // The file gets its name when it is whole: a game that is ended meanwhile leaves none behind.
+    const QString parcial =
+        Caminho(pasta, QStringLiteral("Quadrelo-%1.parte").arg(QCoreApplication::applicationPid()));
+    m_arquivo.clear();
     auto estado = EstadoDL::Lendo;
     // The first event of the window's own loop, so that the wait for the file runs inside it.
     QTimer::singleShot(0, &m_form, [&] {
         auto &barra = forms::Acha<toolkit::PictureBox>(m_form, u"PicBaixado");
-        estado = m_dl.Download(endereco, m_arquivo, [&barra](int percentual) {
+        estado = m_dl.Download(endereco, parcial, [&barra](int percentual) {
             MostraProgresso(barra, static_cast<float>(percentual) / kTudo);
         });
         m_form.Unload();
     });
     m_form.ShowModal(dona);
     // The state says little: a reply of unknown length ends as incomplete, and is none the worse.
-    if (m_dl.Recebeu(m_arquivo) && QFileInfo(m_arquivo).size() > 0) {
+    if (m_dl.Recebeu(parcial) && QFileInfo(parcial).size() > 0) {
+        m_arquivo = GuardaArquivo(parcial, pasta, nome);
+    }
+    QFile::remove(parcial);
+    if (!m_arquivo.isEmpty()) {
         return Fim::Baixado;
     }
-    QFile::remove(m_arquivo);
     return estado == EstadoDL::Cancelado ? Fim::Cancelado : Fim::Falhou;
 }
 
-void FrmBaixar::MostraNome()
+void FrmBaixar::MostraNome(const QString &nome)
 {
-    const QString nome = QFileInfo(m_arquivo).fileName();
     forms::Acha<toolkit::Label>(m_form, u"Label2").SetCaption(SemOMeio(nome));
 }
 

@@ -18,12 +18,12 @@ public:
     /// is not Baixado, nothing is left in the folder.
     Fim Baixa(const QString &endereco, const QString &pasta, QWidget *dona);
 
-    /// Full path of the file that the download went to, "" before the first.
+    /// Full path of the file that was downloaded last, "" while there is none.
     [[nodiscard]] const QString &Arquivo() const { return m_arquivo; }
 
 private:
     void Form_Load();
-    void MostraNome();
+    void MostraNome(const QString &nome);
 
     ValoresPrograma &m_valores;
     toolkit::Form m_form;

@@ -45,8 +45,12 @@ void Reposiciona(toolkit::Control &controle, const PosicaoObjeto &r, float sx, f
         controle.SetWidth(sx * r.width);
         controle.SetHeight(sy * r.height);
     }
+    // A label that keeps its right edge where it sizes itself has moved with its font.
+    controle.SetLeft(sx * r.left);
     if (auto *imagem = dynamic_cast<toolkit::Image *>(&controle)) {
         imagem->TomaTamanhoNatural();
+    } else if (auto *caixa = dynamic_cast<toolkit::PictureBox *>(&controle)) {
+        caixa->TomaTamanhoNatural();
     }
 }
 

@@ -50,18 +50,23 @@ void DaForma(toolkit::Form &form, ValoresPrograma &valores)
 void ArrastaForm(toolkit::Form &form, const toolkit::Mouse &mouse)
 {
     if (mouse.botoes == Qt::LeftButton) {
-        form.Arrasta(mouse);
+        form.GetArrasto().Move(mouse);
     } else {
-        form.Solta();
+        form.GetArrasto().Solta();
     }
 }
 
 void LigaTira(toolkit::Form &form, toolkit::Control &tira)
 {
     tira.MouseDown = [&form](const toolkit::Mouse &mouse) {
-        form.Solta();
+        form.GetArrasto().Solta();
         if (mouse.botoes == Qt::LeftButton) {
-            form.Pega();
+            form.GetArrasto().Pega(mouse);
+        }
+    };
+    tira.MouseUp = [&form](const toolkit::Mouse &mouse) {
+        if (mouse.botoes == Qt::LeftButton) {
+            form.GetArrasto().Solta();
         }
     };
     tira.MouseMove = [&form](const toolkit::Mouse &mouse) { ArrastaForm(form, mouse); };

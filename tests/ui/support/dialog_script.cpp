@@ -26,11 +26,10 @@ void RoteiroDialogos::Espera(const QString &nome, Passos passos)
 
 bool RoteiroDialogos::eventFilter(QObject *alvo, QEvent *evento)
 {
-    const bool mostra = evento->type() == QEvent::Show;
-    if (mostra || evento->type() == QEvent::Hide) {
+    if (evento->type() == QEvent::Show) {
         auto *form = dynamic_cast<toolkit::Form *>(alvo);
         if (form != nullptr && form->isModal()) {
-            mostra ? Mostrou(*form) : Escondeu(*form);
+            Mostrou(*form);
         }
     }
     return QObject::eventFilter(alvo, evento);
@@ -39,17 +38,6 @@ bool RoteiroDialogos::eventFilter(QObject *alvo, QEvent *evento)
 void RoteiroDialogos::Mostrou(toolkit::Form &form)
 {
     QTimer::singleShot(0, &form, [this, &form] { Encena(form); });
-}
-
-/// Does a window manager's duty: the owner of a window that has gone becomes the active one.
-void RoteiroDialogos::Escondeu(const toolkit::Form &form)
-{
-    QWidget *dona = form.parentWidget();
-    QTimer::singleShot(0, dona, [dona] {
-        if (dona->isVisible()) {
-            dona->activateWindow();
-        }
-    });
 }
 
 void RoteiroDialogos::Encena(toolkit::Form &form)

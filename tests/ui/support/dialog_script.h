@@ -36,7 +36,6 @@ private:
     };
 
     void Mostrou(toolkit::Form &form);
-    static void Escondeu(const toolkit::Form &form);
     void Encena(toolkit::Form &form);
 
     std::deque<Cena> m_cenas;

@@ -1,13 +1,10 @@
-#include "ui/toolkit/accessible.h"
+#include "ui/toolkit/accessible_tree.h"
 
-#include "ui/toolkit/accessible_control.h"
 #include "ui/toolkit/announcer.h"
-#include "ui/toolkit/form.h"
-#include "ui/toolkit/overflow.h"
+#include "ui/toolkit/control.h"
 
 #include <algorithm>
 #include <limits>
-#include <QAccessibleWidget>
 #include <QApplication>
 #include <QMouseEvent>
 
@@ -66,69 +63,7 @@ void Junta(const QWidget &dentro, QWidgetList &lista)
     }
 }
 
-class LeituraForm final : public LeituraWidget
-{
-public:
-    explicit LeituraForm(Form &form) : LeituraWidget(form) {}
-
-    [[nodiscard]] QAccessible::Role role() const override
-    {
-        return widget()->windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window;
-    }
-};
-
-class LeituraAnuncio final : public QAccessibleWidget
-{
-public:
-    explicit LeituraAnuncio(Anunciador &anunciador)
-        : QAccessibleWidget(&anunciador, QAccessible::Notification)
-    {
-    }
-
-    [[nodiscard]] QString text(QAccessible::Text texto) const override
-    {
-        // Null while the widget is being destroyed.
-        const auto *anunciador = dynamic_cast<const Anunciador *>(widget());
-        return anunciador != nullptr && texto == QAccessible::Name ? anunciador->Texto()
-                                                                   : QString();
-    }
-};
-
-/// What the bubble says is announced; the window that shows its far end has nothing to add.
-class LeituraTransbordo final : public QAccessibleWidget
-{
-public:
-    explicit LeituraTransbordo(Transbordo &janela) : QAccessibleWidget(&janela) {}
-
-    [[nodiscard]] QAccessible::State state() const override
-    {
-        QAccessible::State estado = QAccessibleWidget::state();
-        estado.invisible = true;
-        return estado;
-    }
-};
-
-QAccessibleInterface *Fabrica(const QString & /*classe*/, QObject *objeto)
-{
-    if (auto *form = dynamic_cast<Form *>(objeto)) {
-        return new LeituraForm(*form);
-    }
-    if (auto *anunciador = dynamic_cast<Anunciador *>(objeto)) {
-        return new LeituraAnuncio(*anunciador);
-    }
-    if (auto *transbordo = dynamic_cast<Transbordo *>(objeto)) {
-        return new LeituraTransbordo(*transbordo);
-    }
-    auto *dele = dynamic_cast<WidgetDeControle *>(objeto);
-    return dele == nullptr ? nullptr : CriaLeitura(static_cast<QWidget &>(*objeto), *dele);
-}
-
 } // namespace
-
-void InstalaAcessibilidade()
-{
-    QAccessible::installFactory(Fabrica);
-}
 
 bool EstaNaArvore(const QWidget &widget)
 {
@@ -163,19 +98,6 @@ QWidget *PaiLido(const QWidget &widget)
     return pai;
 }
 
-void ContaMudancas(const QWidget &janela)
-{
-    const auto widgets = janela.findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (dynamic_cast<WidgetDeControle *>(widget) != nullptr) {
-            QAccessibleInterface *leitura = QAccessible::queryAccessibleInterface(widget);
-            if (auto *nossa = dynamic_cast<LeituraControle *>(leitura)) {
-                nossa->ContaMudanca();
-            }
-        }
-    }
-}
-
 bool EstaDescoberto(const QWidget &widget)
 {
     const QWidget *janela = widget.window();
@@ -203,6 +125,35 @@ void Clica(QWidget &widget)
             QApplication::sendEvent(vivo, &evento);
         }
     }
+}
+
+int LeituraWidget::childCount() const
+{
+    return static_cast<int>(FilhosLidos(*widget()).size());
+}
+
+QAccessibleInterface *LeituraWidget::child(int indice) const
+{
+    const QWidgetList filhos = FilhosLidos(*widget());
+    return indice < 0 || indice >= filhos.size()
+               ? nullptr
+               : QAccessible::queryAccessibleInterface(filhos[indice]);
+}
+
+int LeituraWidget::indexOfChild(const QAccessibleInterface *filho) const
+{
+    return filho == nullptr ? -1
+                            : static_cast<int>(FilhosLidos(*widget()).indexOf(filho->object()));
+}
+
+QAccessibleInterface *LeituraWidget::childAt(int x, int y) const
+{
+    QWidget *em = widget()->childAt(widget()->mapFromGlobal(QPoint(x, y)));
+    const QWidgetList filhos = FilhosLidos(*widget());
+    while (em != nullptr && em != widget() && !filhos.contains(em)) {
+        em = em->parentWidget();
+    }
+    return em == nullptr || em == widget() ? nullptr : QAccessible::queryAccessibleInterface(em);
 }
 
 } // namespace toolkit

@@ -1,0 +1,155 @@
+#include "core/files/whole_file.h"
+
+#include <gtest/gtest.h>
+
+#include "core/files/ini_file.h"
+#include "core/records/ranking_table.h"
+#include "core/registry/registry_store_portable.h"
+#include "tests/core/test_files.h"
+#include <QElapsedTimer>
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+namespace {
+
+bool Escreve(const QString &arquivo, const QString &valor)
+{
+    return WritePrivateProfileStringA(QStringLiteral("s"), QStringLiteral("a"), valor, arquivo);
+}
+
+QByteArray ComTamanho(qint64 bytes)
+{
+    const QByteArray inicio = "[s]\r\na=1\r\n;";
+    return inicio + QByteArray(bytes - inicio.size(), 'x');
+}
+
+#ifdef Q_OS_LINUX
+/// For as long as it lives no file of this process can grow beyond `bytes`: a disk that is full.
+class DiscoCheio
+{
+public:
+    explicit DiscoCheio(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &m_velho);
+        const rlimit novo{bytes, m_velho.rlim_max};
+        std::signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &novo);
+    }
+    ~DiscoCheio() { setrlimit(RLIMIT_FSIZE, &m_velho); }
+    Q_DISABLE_COPY_MOVE(DiscoCheio)
+
+private:
+    rlimit m_velho{};
+};
+#endif
+
+} // namespace
+
+#ifdef Q_OS_LINUX
+TEST(TrocaArquivo, KeepsTheOldFileOnAFullDisk)
+{
+    const PastaDeTeste pasta;
+    for (const int espaco : {0, 100, 4096}) {
+        const QByteArray velho = ComTamanho(6000);
+        const auto arquivo = pasta.Arquivo("save.ini", velho);
+        const auto registro = pasta.Arquivo("r.reg", "velho");
+        {
+            const DiscoCheio cheio(static_cast<rlim_t>(espaco));
+            EXPECT_EQ(TrocaArquivo(arquivo, QByteArray(6001, 'n')), Troca::Falhou);
+            EXPECT_FALSE(Escreve(arquivo, QStringLiteral("2")));
+            RegistroPortatil armazem(registro);
+            ChaveRegistro chave = 0;
+            armazem.RegCreateKeyA(kPrimeiraRaiz, QByteArray(200, 'k'), chave);
+            EXPECT_EQ(armazem.Salva(), espaco > 200);
+        }
+        EXPECT_EQ(pasta.Conteudo(arquivo), velho) << espaco;
+        EXPECT_EQ(pasta.Lista().size(), 2) << espaco;
+    }
+}
+#endif
+
+TEST(LeArquivo, TakesOnlyAMissingFileForAnEmptyOne)
+{
+    const PastaDeTeste pasta;
+    QDir(pasta.Caminho("")).mkdir(QStringLiteral("pasta"));
+    EXPECT_EQ(LeArquivo(pasta.Caminho("falta")), QByteArray());
+    EXPECT_EQ(LeArquivo(pasta.Arquivo("a", "abc")), "abc");
+    EXPECT_EQ(LeArquivo(pasta.Arquivo("grande", ComTamanho(kMaximoDoArquivo))),
+              ComTamanho(kMaximoDoArquivo));
+    EXPECT_FALSE(LeArquivo(pasta.Caminho("pasta")));
+    EXPECT_FALSE(LeArquivo(pasta.Arquivo("enorme", ComTamanho(kMaximoDoArquivo + 1))));
+    EXPECT_FALSE(LoteIni(pasta.Caminho("pasta")).Legivel());
+}
+
+TEST(Guardados, AreNeitherReadNorWrittenOverWhenTooLarge)
+{
+    const PastaDeTeste pasta;
+    for (const qint64 tamanho : {kMaximoDoArquivo + 1, kMaximoDoArquivo}) {
+        const QByteArray velho = ComTamanho(tamanho);
+        const auto arquivo = pasta.Arquivo("x.ini", velho);
+        const bool legivel = tamanho <= kMaximoDoArquivo;
+        EXPECT_EQ(LeIni(QStringLiteral("s"), QStringLiteral("a"), arquivo, {}),
+                  legivel ? QStringLiteral("1") : QString());
+        // One byte more, and the file would be too large.
+        EXPECT_FALSE(Escreve(arquivo, QStringLiteral("22")));
+        EXPECT_FALSE(GravaLugar(arquivo, 1, QStringLiteral("Ana"), 5));
+        EXPECT_TRUE(pasta.Conteudo(arquivo) == velho);
+        RegistroPortatil armazem(arquivo);
+        ChaveRegistro chave = 0;
+        armazem.RegCreateKeyA(kPrimeiraRaiz, "k", chave);
+        EXPECT_EQ(armazem.Salva(), legivel);
+    }
+}
+
+TEST(TravaDeArquivo, KeepsWritersApartForAMomentAndIsHarmlessWhereItCannotBe)
+{
+    const PastaDeTeste pasta;
+    const auto arquivo = pasta.Caminho("x.ini");
+    {
+        const TravaDeArquivo minha(arquivo);
+        EXPECT_TRUE(minha.Minha());
+        EXPECT_FALSE(TravaDeArquivo(arquivo, 0).Minha());
+        QElapsedTimer relogio;
+        relogio.start();
+        EXPECT_TRUE(Escreve(arquivo, QStringLiteral("1"))) << "behind a writer that hangs";
+        EXPECT_LT(relogio.elapsed(), 5'000);
+    }
+    EXPECT_EQ(pasta.Lista(), QStringList{QStringLiteral("x.ini")});
+    EXPECT_TRUE(TravaDeArquivo(arquivo, 0).Minha());
+    EXPECT_FALSE(TravaDeArquivo(pasta.Caminho("falta/x.ini")).Minha());
+    // The lock of a process that is gone.
+    pasta.Arquivo("x.ini.lock",
+                  "2147483000\nquadrelo\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+    EXPECT_TRUE(Escreve(arquivo, QStringLiteral("2")));
+    EXPECT_EQ(pasta.Lista(), QStringList{QStringLiteral("x.ini")});
+}
+
+TEST(LimpaRestos, TakesWhatADeadWriterLeftAndNothingElse)
+{
+    const PastaDeTeste pasta;
+    const QStringList alheios = {
+        QStringLiteral("save.ini"),        QStringLiteral("save.ini.backup"),
+        QStringLiteral("save.ini.Backup"), QStringLiteral("save.ini.ANTIGO"),
+        QStringLiteral("save.ini.a1B2c3"), QStringLiteral("save.ini.aBcDeFg"),
+        QStringLiteral("jf.dat.aBcDeF"),   QStringLiteral("xsave.ini.aBcDeF")};
+    for (const QString &nome : alheios) {
+        pasta.Arquivo(qPrintable(nome), "x");
+    }
+    for (const char *nome : {"save.ini.aBcDeF", "save.ini.kkkkkQ", "save.ini.ZZZZZa"}) {
+        pasta.Arquivo(nome, "x");
+    }
+    const auto todos = pasta.Lista();
+    {
+        const TravaDeArquivo vivo(pasta.Caminho("save.ini"));
+        LimpaRestos(pasta.Caminho("save.ini"));
+        EXPECT_EQ(pasta.Lista().size(), todos.size() + 1) << "while a writer lives";
+    }
+    LimpaRestos(pasta.Caminho("save.ini"));
+    auto ficam = alheios;
+    ficam.sort();
+    auto lista = pasta.Lista();
+    lista.sort();
+    EXPECT_EQ(lista, ficam);
+}
