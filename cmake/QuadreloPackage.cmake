@@ -32,7 +32,7 @@ install(TARGETS quadrelo RUNTIME DESTINATION ${lugar})
 install(FILES ${QUADRELO_FOLDER}/Perguntas.tes ${sons_da_pasta} LEIA-ME.md PROFESSORES.md DESTINATION ${lugar})
 # For those who make banks of their own.
 install(TARGETS compila_banco monta RUNTIME DESTINATION ${lugar}/ferramentas)
-install(FILES assets/exemplo/corpo-humano.csv DESTINATION ${lugar}/ferramentas)
+install(FILES ${QUADRELO_EXEMPLO} DESTINATION ${lugar}/ferramentas)
 install(FILES docs/tabuleiro.png docs/balao.png DESTINATION ${lugar}/docs)
 install(DIRECTORY DESTINATION ${lugar}/Dados)
 if(QUADRELO_QM)
@@ -76,4 +76,4 @@ add_custom_target(pacote
   COMMAND ${CMAKE_CPACK_COMMAND}
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
   COMMENT "Packing the portable folder" VERBATIM USES_TERMINAL)
-add_dependencies(pacote quadrelo banco sons_da_pasta compila_banco monta)
+add_dependencies(pacote quadrelo banco sons_da_pasta)

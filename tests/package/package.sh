@@ -37,7 +37,7 @@ tar -xzf "$archive" -C "$(dirname "$folder")"
 diff "$work/wanted" "$work/found" || die "the package holds other files than it should"
 # The folder of the build holds all of it but what a desktop needs.
 grep -v -e /linux/ -e instalar.sh "$work/found" | while read -r file; do
-  cmp -s "$folder/$file" "$build/Quadrelo/$file" || [ "$file" = ./quadrelo ] || echo "$file"
+  cmp -s "$folder/$file" "$build/Quadrelo/$file" || [ -x "$build/Quadrelo/$file" ] || echo "$file"
 done >"$work/missing"
 [ ! -s "$work/missing" ] || die "the build's folder lacks $(cat "$work/missing")"
 [ -d "$folder/Dados" ] || die "the folder for what the game writes is missing"
