@@ -57,67 +57,49 @@ double PotenciaOuvida(const std::vector<double> &amostras)
     return Decibels(std::sqrt(soma / static_cast<double>(ultima + 1 - primeira)));
 }
 
-struct Caso
-{
-    QStringView nome;
-    double maximo; // seconds, without the silence behind it
-};
-constexpr std::array<Caso, 6> kCasos = {{{u"click.wav", 0.12},
-                                         {u"select.wav", 0.2},
-                                         {u"acerto1.wav", 1.2},
-                                         {u"acerto2.wav", 1.2},
-                                         {u"erro1.wav", 1.2},
-                                         {u"erro2.wav", 1.2}}};
+/// Names, and longest times in seconds without the silence behind them.
+constexpr std::pair<QStringView, double> kCasos[] = {{u"click.wav", 0.12},  {u"select.wav", 0.2},
+                                                     {u"acerto1.wav", 1.2}, {u"acerto2.wav", 1.2},
+                                                     {u"erro1.wav", 1.2},   {u"erro2.wav", 1.2}};
 
 } // namespace
 
-TEST(Sounds, AreSixShortFilesOfOneFormat)
+TEST(Sounds, AreShortFilesOfOneFormatEquallyLoudBetweenSilences)
 {
-    for (const Caso &caso : kCasos) {
-        const QByteArray wav = Le(caso.nome);
-        const std::string nome = caso.nome.toString().toStdString();
-        ASSERT_GT(wav.size(), kCabecalho) << nome;
-        const auto curto = [&wav](qsizetype k) {
-            return qFromLittleEndian<quint16>(wav.constData() + k);
+    const double medida = PotenciaOuvida(Amostras(Le(kCasos[0].first)));
+    for (const auto &[arquivo, maximo] : kCasos) {
+        SCOPED_TRACE(arquivo.toString().toStdString());
+        const QByteArray wav = Le(arquivo);
+        const auto tamanho = [&wav](qsizetype cabecalho) {
+            const auto n = qToLittleEndian(static_cast<quint32>(wav.size() - cabecalho));
+            return QByteArray(reinterpret_cast<const char *>(&n), 4);
         };
-        const auto longo = [&wav](qsizetype k) {
-            return qFromLittleEndian<quint32>(wav.constData() + k);
-        };
-        EXPECT_EQ(wav.first(4) + wav.sliced(8, 8), QByteArray("RIFFWAVEfmt ")) << nome;
-        EXPECT_EQ(longo(4), wav.size() - 8) << nome;
-        EXPECT_TRUE(curto(20) == 1 && curto(22) == 1 && longo(24) == 44100 && curto(34) == 16)
-            << nome;
-        EXPECT_TRUE(longo(28) == 88200 && curto(32) == 2 && longo(40) == wav.size() - kCabecalho)
-            << nome;
-        EXPECT_LE(static_cast<double>(Amostras(wav).size()) / 44100, caso.maximo + kSilencioFinal)
-            << nome;
-    }
-}
-
-TEST(Sounds, AreEquallyLoudAndBeginAndEndInSilence)
-{
-    const double medida = PotenciaOuvida(Amostras(Le(kCasos[0].nome)));
-    for (const Caso &caso : kCasos) {
-        std::vector<double> amostras = Amostras(Le(caso.nome));
-        const std::string nome = caso.nome.toString().toStdString();
-        EXPECT_LT(Decibels(Pico(amostras)), -3) << nome;
-        EXPECT_NEAR(PotenciaOuvida(amostras), medida, 1) << nome;
-        EXPECT_EQ(amostras.front(), 0) << nome;
+        // One channel of 16 bits, 44,100 times a second.
+        ASSERT_EQ(
+            wav.first(kCabecalho),
+            "RIFF" + tamanho(8) +
+                QByteArray("WAVEfmt \x10\0\0\0\1\0\1\0\x44\xAC\0\0\x88\x58\1\0\2\0\x10\0data", 32) +
+                tamanho(kCabecalho));
+        std::vector<double> amostras = Amostras(wav);
+        EXPECT_LE(static_cast<double>(amostras.size()) / 44100, maximo + kSilencioFinal);
+        EXPECT_LT(Decibels(Pico(amostras)), -3);
+        EXPECT_NEAR(PotenciaOuvida(amostras), medida, 1);
         const auto fim = amostras.end() - std::lround(kSilencioFinal * 44100);
-        EXPECT_EQ(std::count(fim, amostras.end(), 0.0), amostras.end() - fim) << nome;
+        EXPECT_EQ(std::count(fim, amostras.end(), 0.0), amostras.end() - fim);
         amostras.erase(fim, amostras.end());
-        EXPECT_EQ(amostras.back(), 0) << nome;
+        EXPECT_EQ(amostras.front(), 0);
+        EXPECT_EQ(amostras.back(), 0);
         // No jump at either end: the very first and last samples rise and fall gently.
         for (size_t k = 0; k < 8; ++k) {
-            EXPECT_LT(std::abs(amostras[k]), 0.05) << nome;
-            EXPECT_LT(std::abs(amostras[amostras.size() - 1 - k]), 0.01) << nome;
+            EXPECT_LT(std::abs(amostras[k]), 0.05);
+            EXPECT_LT(std::abs(amostras[amostras.size() - 1 - k]), 0.01);
         }
     }
 }
 
 TEST(Sounds, ComeOutTheSameWhenMadeAnew)
 {
-    ASSERT_EQ(Sons().size(), kCasos.size());
+    ASSERT_EQ(Sons().size(), std::size(kCasos));
     for (const Som &som : Sons()) {
         const std::vector<double> novas = Amostras(ArquivoWav(Sintetiza(som)));
         const std::vector<double> guardadas = Amostras(Le(som.nome));

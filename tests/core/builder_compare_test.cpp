@@ -2,9 +2,7 @@
 
 #include "support/sample_banks.h"
 #include "support/slow_builder.h"
-#include "tools/house_rules.h"
 #include <memory>
-#include <QFile>
 
 // The builder held against a second, slow one: same seed, bank and memory, same puzzle, item by
 // item, cell by cell and draw by draw. QUADRELO_FATOR in the environment multiplies the seeds.
@@ -19,7 +17,7 @@ void EncheLista(Lista lista, Oficina &oficina, ConstrutorLento &lento, std::uint
 {
     std::mt19937_64 gerador(semente);
     const auto n = static_cast<unsigned>(oficina.banco.QtdPerguntas);
-    for (size_t k = 1; k <= size_t(std::min(int{lista}, kUsadas)); ++k) {
+    for (int k = 1; k <= std::min(int{lista}, kUsadas); ++k) {
         if (lista == ComFuros && gerador() % 5 == 0) continue;
         oficina.memoria.PalavrasUsadas[k] =
             gerador() % 40 == 0 ? QString(u'Ж') : oficina.banco.BancoPalavra[1 + gerador() % n];
@@ -32,67 +30,33 @@ void EncheLista(Lista lista, Oficina &oficina, ConstrutorLento &lento, std::uint
 void ComparaMesas(const Tabuleiro &tabuleiro, const ConstrutorLento &lento)
 {
     ASSERT_EQ(tabuleiro.QtdItens, lento.qtdItens);
-    for (size_t n = 1; n <= size_t(lento.qtdItens); ++n) {
+    for (int n = 1; n <= lento.qtdItens; ++n) {
+        const auto &[palavra, sentido, ponto, pergunta] = lento.item.at(size_t(n));
         const RegistroItem &item = tabuleiro.ItemPalavra[n];
-        const ConstrutorLento::Item &outro = lento.item[n];
-        ASSERT_EQ(item.Palavra, outro.palavra) << "item " << n;
-        ASSERT_EQ(item.Sentido, outro.sentido) << "item " << n;
-        ASSERT_EQ(item.Ponto, outro.ponto) << "item " << n;
-        ASSERT_EQ(item.Dica, QStringLiteral("pista %1").arg(outro.pergunta)) << "item " << n;
+        ASSERT_EQ(item.Palavra + item.Sentido, palavra + sentido) << "item " << n;
+        ASSERT_EQ(item.Ponto, ponto) << "item " << n;
+        ASSERT_EQ(item.Dica, QStringLiteral("pista %1").arg(pergunta)) << "item " << n;
     }
     for (size_t i = 1; i <= size_t{kCelulas}; ++i) {
+        const auto &[visivel, itens, sentido, letra] = lento.celula[i];
         const CelulaQuadrado &celula = tabuleiro.Quadrado[i];
-        const ConstrutorLento::Celula &outra = lento.celula[i];
-        ASSERT_EQ(tabuleiro.Ocupada[i], outra.visivel) << "cell " << i;
-        ASSERT_EQ(celula.Itens, outra.itens) << "cell " << i;
-        ASSERT_EQ(celula.Sentido, outra.sentido) << "cell " << i;
-        ASSERT_TRUE(!outra.visivel || celula.Letra == outra.letra) << "cell " << i;
+        ASSERT_EQ(tabuleiro.Ocupada[i], visivel) << "cell " << i;
+        ASSERT_EQ(celula.Itens, itens) << "cell " << i;
+        ASSERT_EQ(celula.Sentido, sentido) << "cell " << i;
+        ASSERT_TRUE(!visivel || celula.Letra == letra) << "cell " << i;
     }
 }
 
-struct Caso
+/// Words with others behind them that are empty, repeated, or one letter again and again.
+std::vector<QByteArray> Variadas(int quantas)
 {
-    const char *nome;
-    QByteArray registros;
-    int sementes;
-    std::vector<Lista> listas;
-};
-
-void ComparaCaso(const Caso &caso)
-{
-    const int fator = std::max(1, qEnvironmentVariableIntValue("QUADRELO_FATOR"));
-    for (const Lista lista : caso.listas) {
-        for (int semente = 1; semente <= caso.sementes * fator; ++semente) {
-            SCOPED_TRACE(testing::Message() << caso.nome << ", " << lista << ", seed " << semente);
-            const auto numero = static_cast<std::uint64_t>(semente);
-            const auto oficina = std::make_unique<Oficina>(caso.registros);
-            ConstrutorLento lento(LePalavrasLento(caso.registros), numero);
-            AcasoMersenne acaso(numero);
-            EncheLista(lista, *oficina, lento, numero + 7);
-            // The second build goes on in the stream of the first.
-            for (const auto busca : {BuscaUsadas::Indice, BuscaUsadas::VarreduraSimples}) {
-                ASSERT_EQ(oficina->Tenta(acaso, busca), lento.Monta());
-                ComparaMesas(oficina->tabuleiro, lento);
-                ASSERT_EQ(acaso.Sorteios(), lento.sorteios);
-                if (testing::Test::HasFatalFailure()) return;
-            }
-        }
-    }
-}
-
-/// The game's own words, with clues that name the entry.
-QByteArray BancoDoJogo()
-{
-    QFile fonte(QStringLiteral(QUADRELO_FONTE));
-    EXPECT_TRUE(fonte.open(QIODevice::ReadOnly));
-    const FonteBanco lida = LeFonte(fonte.readAll());
-    EXPECT_EQ(lida.faltas, QStringList());
     std::vector<QByteArray> palavras;
-    const QByteArray bytes = CompilaBanco(lida.entradas);
-    for (qsizetype r = 0; r < bytes.size(); r += 76) {
-        palavras.push_back(bytes.mid(r, 15));
+    for (const QByteArray &palavra : PalavrasDeSilabas(quantas, 4)) {
+        palavras.insert(palavras.end(),
+                        {palavra, "", palavras.empty() ? "A" : palavras[palavras.size() / 3],
+                         QByteArray(palavra.size() - 2, 'A')});
     }
-    return RegistrosDe(palavras);
+    return palavras;
 }
 
 } // namespace
@@ -100,23 +64,42 @@ QByteArray BancoDoJogo()
 TEST(SlowBuilder, AgreesWithTheBuilderOnManyBanksAndMemories)
 {
     const std::vector todas{Vazia, Parte, Cheia, ComFuros};
-    const QByteArray comuns("AAAAEEEEIIIOOOOUBCDFGLMNPRRSSTTV");
-    QByteArray bytes(400, 'a');
-    for (int b = 0; b < 256; ++b) {
-        bytes += QByteArray(b == 'A' || b == 0xC3 ? 300 : 1, static_cast<char>(b));
-    }
-    for (const Caso &caso : {
-             Caso{"the game's own bank", BancoDoJogo(), 12, todas},
-             Caso{"3,000 entries", RegistrosDe(PalavrasDeSilabas(3000, 1)), 12, todas},
-             Caso{"5,000 records", RegistrosDe(PalavrasDeSilabas(5000, 2)), 4, todas},
-             Caso{"long words", SorteiaRegistros({900, 9, 15, comuns}, 3), 3, {Vazia, Parte}},
-             Caso{"repeated, empty", SorteiaRegistros({700, 1, 9, comuns, 40, 10}, 4), 8, todas},
-             Caso{"few words", SorteiaRegistros({60, 3, 8, comuns}, 5), 3, {Vazia, Parte}},
-             Caso{"one letter", SorteiaRegistros({60, 2, 15, "A", 10}, 6), 3, {Vazia, Parte}},
-             Caso{"any byte, blanks", SorteiaRegistros({800, 1, 15, bytes, 5, 5}, 7), 8, todas},
-             Caso{"a single word", RegistrosDe({"", "ABACAXI"}), 3, {Vazia, Parte}},
-         }) {
-        ComparaCaso(caso);
-        if (HasFatalFailure()) return;
+    const std::vector curtas{Vazia, Parte};
+    const struct
+    {
+        const char *nome;
+        QByteArray registros;
+        int sementes;
+        std::vector<Lista> listas;
+    } casos[] = {
+        {"a bank like the game's", RegistrosDe(PalavrasDeSilabas(2600, 1)), 6, todas},
+        {"5,000 records", RegistrosDe(PalavrasDeSilabas(5000, 2)), 3, todas},
+        {"long words", RegistrosDe(PalavrasDeSilabas(900, 3, {0, 0, 0, 0, 0, 0, 1, 1, 1, 1})), 3,
+         curtas},
+        {"repeated, empty, one letter", RegistrosDe(Variadas(250)), 6, todas},
+        {"few words", RegistrosDe(PalavrasDeSilabas(60, 5)), 3, curtas},
+        {"any byte, blanks",
+         RegistrosDe(Variadas(300)).replace('O', '\xC3').replace('U', ' ').replace('I', '\0'), 6,
+         todas},
+        {"a single word", RegistrosDe({"", "ABACAXI"}), 3, curtas},
+    };
+    const int fator = std::max(1, qEnvironmentVariableIntValue("QUADRELO_FATOR"));
+    for (const auto &[nome, registros, sementes, listas] : casos) {
+        for (int n = 0; n < sementes * fator * static_cast<int>(listas.size()); ++n) {
+            const auto lista = listas[size_t(n) % listas.size()];
+            const auto semente = static_cast<std::uint64_t>(n) + 1;
+            SCOPED_TRACE(testing::Message() << nome << ", " << lista << ", seed " << semente);
+            const auto oficina = std::make_unique<Oficina>(registros);
+            ConstrutorLento lento(LePalavrasLento(registros), semente);
+            AcasoMersenne acaso(semente);
+            EncheLista(lista, *oficina, lento, semente + 7);
+            // The second build goes on in the stream of the first.
+            for (const auto busca : {BuscaUsadas::Indice, BuscaUsadas::VarreduraSimples}) {
+                ASSERT_EQ(oficina->Tenta(acaso, busca), lento.Monta());
+                ComparaMesas(oficina->tabuleiro, lento);
+                ASSERT_EQ(acaso.Sorteios(), lento.sorteios);
+                if (HasFatalFailure()) return;
+            }
+        }
     }
 }

@@ -32,7 +32,3 @@ struct Alvo
 
 /// All targets.
 std::vector<Alvo> Alvos();
-
-/// Damages one of the target's seeds once and proves it. Empty, or what broke and the bytes that
-/// broke it.
-QString RodadaDeFuzz(const Alvo &alvo, Dado &dado);

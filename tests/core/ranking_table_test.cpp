@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "core/files/ini_file.h"
 #include "tests/core/test_files.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -30,62 +31,50 @@ QString Tabela(const QString &arquivo)
 
 TEST(Ranking, FindsThePlaceAboveTheFirstLongerTime)
 {
-    PastaDeTeste pasta;
+    const PastaDeTeste pasta;
     const auto cheio = Cheio(pasta);
     const auto vazio = pasta.Caminho("none.dat");
     const auto torto = pasta.Arquivo("torto.dat", "[Ranking1]\nTempo=x\n[Ranking2]\nTempo=12s9\n"
                                                   "[Ranking3]\nTempo=99999999999999999999\n");
-    struct Caso
-    {
-        QString arquivo;
-        int t, lugar;
-    };
-    for (const auto &[arquivo, t, lugar] :
-         {Caso{cheio, 0, 1}, Caso{cheio, 100, 2}, Caso{cheio, 250, 3}, Caso{cheio, 499, 5},
-          Caso{cheio, 500, 0}, Caso{vazio, 999998, 1}, Caso{vazio, 999999, 0}, Caso{torto, 11, 2},
-          Caso{torto, 12, 3}}) {
-        EXPECT_EQ(ProcuraLugar(arquivo, t), lugar) << arquivo.toStdString() << ' ' << t;
+    for (const auto &[arquivo, t, lugar] : {std::tuple{cheio, 0, 1},
+                                            {cheio, 100, 2},
+                                            {cheio, 250, 3},
+                                            {cheio, 499, 5},
+                                            {cheio, 500, 0},
+                                            {vazio, 999998, 1},
+                                            {vazio, 999999, 0},
+                                            {torto, 11, 2},
+                                            {torto, 12, 3}}) {
+        EXPECT_EQ(ProcuraLugar(arquivo, t), lugar) << qPrintable(arquivo) << ' ' << t;
     }
 }
 
-TEST(Ranking, MovesTheLowerPlacesDown)
+TEST(Ranking, MovesTheLowerPlacesDownBelowBetterTimesThatWereNotSeen)
 {
-    PastaDeTeste pasta;
+    const PastaDeTeste pasta;
     const auto arquivo = Cheio(pasta);
-    EXPECT_TRUE(GravaLugar(arquivo, 3, QStringLiteral("Zé"), 250));
-    EXPECT_EQ(Tabela(arquivo), u"A 00:01:40;B 00:03:20;Zé 00:04:10;C 00:05:00;D 00:06:40;");
-    EXPECT_TRUE(GravaLugar(arquivo, 5, QStringLiteral("Y"), 399));
+    EXPECT_TRUE(GravaLugar(arquivo, 3, u"Zé"_s, 250));
+    EXPECT_TRUE(GravaLugar(arquivo, 5, u"Y"_s, 399));
     EXPECT_EQ(Tabela(arquivo), u"A 00:01:40;B 00:03:20;Zé 00:04:10;C 00:05:00;Y 00:06:39;");
-}
-
-TEST(Ranking, EntersBelowBetterTimesThatWereNotSeen)
-{
-    PastaDeTeste pasta;
-    const auto arquivo = Cheio(pasta);
-    EXPECT_TRUE(GravaLugar(arquivo, 1, QStringLiteral("Zé"), 450));
-    EXPECT_FALSE(GravaLugar(arquivo, 1, QStringLiteral("Y"), 451));
-    EXPECT_EQ(Tabela(arquivo), u"A 00:01:40;B 00:03:20;C 00:05:00;D 00:06:40;Zé 00:07:30;");
+    EXPECT_TRUE(GravaLugar(arquivo, 1, u"X"_s, 398));
+    EXPECT_FALSE(GravaLugar(arquivo, 1, u"W"_s, 398));
+    EXPECT_EQ(Tabela(arquivo), u"A 00:01:40;B 00:03:20;Zé 00:04:10;C 00:05:00;X 00:06:38;");
 }
 
 TEST(Ranking, PadsTheNewNameAndWritesEmptyPlaces)
 {
-    PastaDeTeste pasta;
+    const PastaDeTeste pasta;
     const auto arquivo = pasta.Caminho("Ranking.dat");
-    EXPECT_TRUE(GravaLugar(arquivo, 4, QStringLiteral("Maria"), 61));
-    EXPECT_TRUE(GravaLugar(arquivo, 4, QStringLiteral("quinze letras ."), 60));
-    EXPECT_EQ(pasta.Conteudo(arquivo), "[Ranking5]\r\nNome=Maria\r\nTempo=61\r\n"
-                                       "[Ranking4]\r\nNome=quinze letras \r\nTempo=60\r\n");
-    EXPECT_TRUE(GravaLugar(arquivo, 1, QStringLiteral("Ana"), 59));
-    EXPECT_TRUE(
-        pasta.Conteudo(arquivo).endsWith("[Ranking3]\r\nNome=\r\nTempo=\r\n"
-                                         "[Ranking2]\r\nNome=\r\nTempo=\r\n"
-                                         "[Ranking1]\r\nNome=Ana           \r\nTempo=59\r\n"));
+    EXPECT_TRUE(GravaLugar(arquivo, 4, u"Maria"_s, 61));
+    EXPECT_TRUE(GravaLugar(arquivo, 4, u"quinze letras ."_s, 60));
+    EXPECT_TRUE(GravaLugar(arquivo, 1, u"Ana"_s, 59));
+    EXPECT_EQ(pasta.Conteudo(arquivo), "[Ranking5]\r\nNome=quinze letras\r\nTempo=60\r\n"
+                                       "[Ranking4]\r\nNome=\r\nTempo=\r\n"
+                                       "[Ranking3]\r\nNome=\r\nTempo=\r\n"
+                                       "[Ranking2]\r\nNome=\r\nTempo=\r\n"
+                                       "[Ranking1]\r\nNome=Ana           \r\nTempo=59\r\n");
     EXPECT_EQ(Tabela(arquivo), u"Ana 00:00:59;. .;. .;. .;quinze letras 00:01:00;");
-}
-
-TEST(Ranking, ShowsTimesOfAnyLengthAndADotForNone)
-{
-    PastaDeTeste pasta;
+    // Times of any length, and a dot for none.
     EXPECT_EQ(Tabela(pasta.Arquivo("r.dat", "[Ranking1]\nNome=A\nTempo=2147483647\n"
                                             "[Ranking2]\nNome=B\nTempo=2147483648\n"
                                             "[Ranking3]\nNome=C\n[Ranking4]\nNome=D\nTempo=-1\n"

@@ -4,19 +4,14 @@
 
 #include "core/registry/registry_store_portable.h"
 #include "core/registry/registry_text.h"
-#include <array>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString T(const char16_t *texto)
-{
-    return QString::fromUtf16(texto);
-}
-
 /// A registry of which one root can only be read by this user.
-class RegistroRestrito : public RegistroPortatil
+struct RegistroRestrito : RegistroPortatil
 {
-public:
     ChaveRegistro soLeitura = 0;
 
     CodigoRegistro RegCreateKeyA(ChaveRegistro base, const QByteArray &sub,
@@ -49,246 +44,187 @@ protected:
     }
 
     RegistroRestrito armazem;
-    clsRegistryAccess registro{armazem};
-    const QString k = T(u"HKCU\\k");
+    clsRegistryAccess r{armazem};
+    const QString k = u"HKCU\\k"_s;
 };
 
 } // namespace
 
-TEST_F(RegistryAccess, NamesOneKeyByManyPaths)
+TEST_F(RegistryAccess, NamesOneKeyByManyPathsAndReachesEachRootByBothNames)
 {
-    ASSERT_NE(registro.WriteDWORD(T(u"hkey_current_user\\Software\\Ação"), T(u"Número"), 7), 0);
-    for (const char16_t *caminho :
-         {u"HKCU\\Software\\Ação", u"HKEY_CURRENT_USER\\software\\AÇÃO", u"hkcu\\SOFTWARE\\ação",
-          u"HKCUqualquer\\Software\\Ação", u"Hkey_Current_User\\Software\\Ação"}) {
-        EXPECT_EQ(registro.ReadDWORD(T(caminho), T(u"NÚMERO")), 7) << T(caminho).toStdString();
+    r.WriteDWORD(u"hkey_current_user\\Software\\Ação"_s, u"Número"_s, 7);
+    for (const QString &caminho : {u"HKCU\\Software\\Ação"_s, u"HKCUqualquer\\software\\AÇÃO"_s,
+                                   u"Hkey_Current_User\\SOFTWARE\\ação"_s}) {
+        EXPECT_EQ(r.ReadDWORD(caminho, u"NÚMERO"_s), 7) << qPrintable(caminho);
     }
-    for (const char16_t *caminho :
-         {u"", u"HKXX\\Software\\Ação", u"Software\\Ação", u"\\HKCU\\Software", u"HKC",
-          u"HKLM\\Software\\Ação", u"HKCU\\Software\\Acao"}) {
-        EXPECT_FALSE(registro.KeyExists(T(caminho))) << T(caminho).toStdString();
-        EXPECT_EQ(registro.ReadDWORD(T(caminho), T(u"NÚMERO")), -1);
+    for (const QString &caminho :
+         {u""_s, u"HKXX\\Software\\Ação"_s, u"Software\\Ação"_s, u"\\HKCU\\Software"_s, u"HKC"_s,
+          u"HKLM\\Software\\Ação"_s, u"HKCU\\Software\\Acao"_s}) {
+        EXPECT_FALSE(r.KeyExists(caminho)) << qPrintable(caminho);
     }
-    // A long root name is turned into the short one inside a sub-path too.
-    ASSERT_NE(registro.CreateKey(T(u"HKLM\\xHkey_Usersy\\HKEY_CLASSES_ROOT")), 0);
-    EXPECT_TRUE(registro.KeyExists(T(u"HKLM\\xHKUSy\\hkcr")));
-}
-
-TEST_F(RegistryAccess, ReachesEachRootByBothNames)
-{
-    const std::array<std::pair<const char16_t *, const char16_t *>, 7> raizes = {{
-        {u"HKCR", u"HKEY_CLASSES_ROOT"},
-        {u"HKCU", u"HKEY_CURRENT_USER"},
-        {u"HKLM", u"HKEY_LOCAL_MACHINE"},
-        {u"HKUS", u"HKEY_USERS"},
-        {u"HKPD", u"HKEY_PERFORMANCE_DATA"},
-        {u"HKCC", u"HKEY_CURRENT_CONFIG"},
-        {u"HKDD", u"HKEY_DYN_DATA"},
-    }};
-    ChaveRegistro chave = 0;
-    for (std::size_t n = 0; n < raizes.size(); ++n) {
-        const auto &[curto, longo] = raizes[n];
-        EXPECT_NE(registro.CreateKey(T(longo) + T(u"\\") + T(curto)), 0);
-        // The table stands in the order of the roots' numbers.
-        EXPECT_EQ(armazem.RegOpenKeyA(0x80000000 + n, T(curto).toLatin1(), chave),
-                  CodigoRegistro::Sucesso);
+    // In the order of the roots' numbers.
+    const QStringList raizes = u"CR CLASSES_ROOT CU CURRENT_USER LM LOCAL_MACHINE US USERS "
+                               "PD PERFORMANCE_DATA CC CURRENT_CONFIG DD DYN_DATA"_s.split(u' ');
+    for (qsizetype n = 0; n < kQtdRaizes; ++n) {
+        const QString curto = u"HK"_s + raizes[2 * n];
+        const QString longo = u"HKEY_"_s + raizes[2 * n + 1];
+        // A long root name is turned into the short one inside a sub-path too.
+        EXPECT_NE(r.CreateKey(longo.toLower() + u"\\x"_s + longo), 0);
+        ChaveRegistro chave = 0;
+        EXPECT_EQ(
+            armazem.RegOpenKeyA(kPrimeiraRaiz + ChaveRegistro(n), ("x" + curto.toLatin1()), chave),
+            CodigoRegistro::Sucesso);
         armazem.RegCloseKey(chave);
-        EXPECT_EQ(RaizesPorExtenso(T(curto).toLower() + T(u"\\x") + T(curto)),
-                  T(longo) + T(u"\\x") + T(longo));
-        EXPECT_TRUE(registro.KeyExists(T(curto)));
-        EXPECT_NE(registro.KillKey(T(curto)), 0); // a root opens, and stays
+        EXPECT_EQ(RaizesPorExtenso(curto.toLower() + u"\\HKx"_s + curto),
+                  longo + u"\\HKx"_s + longo);
+        EXPECT_NE(r.KillKey(curto), 0) << "a root opens, and stays";
     }
-    EXPECT_EQ(RaizesPorExtenso(T(u"HKHKCUHKCU")), T(u"HKHKEY_CURRENT_USERHKEY_CURRENT_USER"));
 }
 
 TEST_F(RegistryAccess, CreatesListsAndKillsKeys)
 {
-    QStringList nomes = {T(u"velho")};
-    EXPECT_EQ(registro.EnumKeys(k, nomes), -1);
+    QStringList nomes = {u"velho"_s};
+    EXPECT_EQ(r.EnumKeys(k, nomes), -1);
     EXPECT_TRUE(nomes.isEmpty());
-    EXPECT_EQ(registro.KillKey(k), 0);
-    EXPECT_FALSE(registro.HaveSubkey(k));
-
-    EXPECT_NE(registro.CreateKey(T(u"HKCU\\k\\z\\fundo")), 0);
-    EXPECT_NE(registro.CreateKey(T(u"HKCU\\k\\") + QString(254, u'n')), 0);
-    EXPECT_NE(registro.CreateKey(T(u"HKCU\\k\\") + QString(255, u'm')), 0); // has no room in a list
-    EXPECT_NE(registro.CreateKey(T(u"HKCU\\k\\A")), 0);
-    EXPECT_EQ(registro.EnumKeys(k, nomes), 3);
-    EXPECT_EQ(nomes, QStringList({T(u"z"), QString(254, u'n'), T(u"A")}));
-    EXPECT_TRUE(registro.HaveSubkey(k));
-    EXPECT_FALSE(registro.HaveSubkey(T(u"HKCU\\k\\A")));
-
-    EXPECT_NE(registro.KillKey(T(u"HKCU\\k\\z")), 0); // it has a subkey, and stays
-    EXPECT_TRUE(registro.KeyExists(T(u"HKCU\\k\\z\\fundo")));
-    EXPECT_NE(registro.KillKey(T(u"HKCU\\k\\a")), 0);
-    EXPECT_FALSE(registro.KeyExists(T(u"HKCU\\k\\A")));
+    EXPECT_EQ(r.KillKey(k), 0);
+    EXPECT_FALSE(r.HaveSubkey(k));
+    for (const QString &nome : {u"z\\fundo"_s, QString(254, u'n'), QString(255, u'm'), u"A"_s}) {
+        EXPECT_NE(r.CreateKey(k + u'\\' + nome), 0); // that of 255 letters has no room in a list
+    }
+    EXPECT_EQ(r.EnumKeys(k, nomes), 3);
+    EXPECT_EQ(nomes, QStringList({u"z"_s, QString(254, u'n'), u"A"_s}));
+    EXPECT_TRUE(r.HaveSubkey(k));
+    EXPECT_FALSE(r.HaveSubkey(k + u"\\A"_s));
+    EXPECT_NE(r.KillKey(k + u"\\z"_s), 0); // it has a subkey, and stays
+    EXPECT_TRUE(r.KeyExists(k + u"\\z\\fundo"_s));
+    EXPECT_NE(r.KillKey(k + u"\\a"_s), 0);
+    EXPECT_FALSE(r.KeyExists(k + u"\\A"_s));
 }
 
-TEST_F(RegistryAccess, MakesAMissingKeyForStringsAlwaysForOthersAsTold)
+TEST_F(RegistryAccess, ReadsWhatItWroteAndWhatOthersWrote)
 {
-    registro.CreateKeyIfDoesntExists = false;
-    EXPECT_EQ(registro.WriteDWORD(k, T(u"d"), 1), 0);
-    EXPECT_EQ(registro.WriteBinary(k, T(u"b"), T(u"01")), 0);
-    EXPECT_FALSE(registro.KeyExists(k));
-    EXPECT_NE(registro.WriteString(k, T(u"s"), T(u"1")), 0);
-    EXPECT_NE(registro.WriteDWORD(k, T(u"d"), 1), 0);
-    registro.CreateKeyIfDoesntExists = true;
-    EXPECT_NE(registro.WriteBinary(T(u"HKCU\\b"), T(u"b"), T(u"01")), 0);
-    EXPECT_NE(registro.WriteDWORD(T(u"HKCU\\d"), T(u"d"), 1), 0);
-}
+    r.CreateKeyIfDoesntExists = false;
+    EXPECT_EQ(r.WriteDWORD(k, u"d"_s, 1) + r.WriteBinary(k, u"b"_s, u"01"_s), 0);
+    EXPECT_FALSE(r.KeyExists(k));
+    EXPECT_NE(r.WriteString(k, u"s"_s, u"1"_s), 0) << "makes the key always";
+    r.CreateKeyIfDoesntExists = true;
+    EXPECT_NE(r.WriteBinary(u"HKCU\\b"_s, u"b"_s, u"01"_s), 0);
+    EXPECT_NE(r.WriteDWORD(u"HKCU\\d"_s, u"d"_s, 1), 0);
 
-TEST_F(RegistryAccess, ReadsStringsUpToTheBuffersEnd)
-{
-    EXPECT_EQ(registro.ReadString(k, T(u"s")), QString(1, QChar(u'\0')));
-    EXPECT_EQ(registro.ReadString(k, T(u"s"), T(u"padrão")), T(u"padrão"));
-    registro.WriteString(k, T(u"s"), T(u"“É” €"));
-    EXPECT_EQ(registro.ReadString(k, T(u"S")), T(u"“É” €"));
-    EXPECT_EQ(registro.ReadString(k, T(u"s"), QString(), false, true), T(u"“É” €"));
-    registro.WriteString(k, T(u"s"), QString());
-    EXPECT_EQ(registro.ReadString(k, T(u"s")), QString());
-    registro.WriteString(k, T(u"s"), QString(1024, u'x'));
-    EXPECT_EQ(registro.ReadString(k, T(u"s")), QString(1024, u'x'));
-    registro.WriteString(k, T(u"s"), QString(1025, u'x'));
-    EXPECT_EQ(registro.ReadString(k, T(u"s"), T(u"-")), T(u"-"));
+    EXPECT_EQ(r.ReadString(k, u"falta"_s), QString(1, QChar(u'\0')));
+    for (const QString &texto : {u"“É” €"_s, QString(), QString(1024, u'x')}) {
+        r.WriteString(k, u"s"_s, texto);
+        EXPECT_EQ(r.ReadString(k, u"S"_s), texto);
+        EXPECT_EQ(r.ReadString(k, u"s"_s, u"-"_s, false, true), texto);
+    }
+    r.WriteString(k, u"s"_s, QString(1025, u'x'));
+    EXPECT_EQ(r.ReadString(k, u"s"_s, u"-"_s), u"-");
     Grava("nul", kTipoTexto, QByteArray("abc\0xyz\0", 8));
-    EXPECT_EQ(registro.ReadString(k, T(u"nul")), T(u"abc"));
+    EXPECT_EQ(r.ReadString(k, u"nul"_s), u"abc");
+    r.WriteString(k, u"@"_s, u"padrão"_s);
+    EXPECT_EQ(r.ReadString(k, {}) + r.ReadString(k, u"@"_s, u"-"_s), u"padrão-");
 
-    registro.WriteString(k, T(u"@"), T(u"padrão"));
-    EXPECT_EQ(registro.ReadString(k, QString()), T(u"padrão"));
-    EXPECT_EQ(registro.ReadString(k, T(u"@"), T(u"-")), T(u"-"));
+    for (const std::int32_t numero : {0, 96, -2, 0x12345678, INT32_MAX, INT32_MIN}) {
+        r.WriteDWORD(k, u"d"_s, numero);
+        EXPECT_EQ(r.ReadDWORD(k, u"d"_s, 5), numero);
+    }
+    EXPECT_EQ(r.ReadDWORD(k, u"falta"_s), -1);
+    for (const char *bytes : {"abc", "abcd", "abcde"}) {
+        Grava("d", kTipoBinario, bytes);
+        EXPECT_EQ(r.ReadDWORD(k, u"d"_s, 5), strlen(bytes) == 4 ? 0x64636261 : 5) << bytes;
+    }
+    EXPECT_EQ(r.ReadBinary(k, u"falta"_s, u"-"_s), u"-");
+    for (const int tamanho : {0, 1, 256, 5000}) {
+        const QString texto = AparaBrancos(u"00 FF 7A "_s.repeated(tamanho).left(3 * tamanho));
+        EXPECT_NE(r.WriteBinary(k, u"b"_s, texto), 0);
+        EXPECT_EQ(r.ReadBinary(k, u"b"_s, u"-"_s), texto);
+    }
 }
 
 TEST_F(RegistryAccess, FallsBackFromTheMachineToTheUserWhereAsked)
 {
-    const QString daMaquina = T(u"HKLM\\k");
-    registro.WriteString(daMaquina, T(u"s"), T(u"da máquina"));
+    const QString maquina = u"HKLM\\k"_s;
+    const auto le = [&](const QString &nome, bool hkcu, bool total = false) {
+        return r.ReadString(maquina, nome, u"-"_s, hkcu, total);
+    };
+    r.WriteString(maquina, u"s"_s, u"da máquina"_s);
     armazem.soLeitura = 0x80000002;
     QStringList nomes;
-    EXPECT_FALSE(registro.KeyExists(daMaquina)); // it may only be read
-    EXPECT_EQ(registro.EnumKeys(daMaquina, nomes), 0);
-    EXPECT_EQ(registro.WriteString(daMaquina, T(u"s"), T(u"x")), 0);
-    EXPECT_FALSE(registro.KeyExists(k));
-    EXPECT_NE(registro.WriteString(daMaquina, T(u"s"), T(u"do usuário"), true), 0);
-    EXPECT_NE(registro.WriteString(daMaquina, T(u"só dele"), T(u"1"), true), 0);
-    EXPECT_EQ(registro.ReadString(daMaquina, T(u"s"), QString(), true), T(u"da máquina"));
-    EXPECT_EQ(registro.ReadString(daMaquina, T(u"s"), QString(), true, true), T(u"do usuário"));
-    EXPECT_EQ(registro.ReadString(daMaquina, T(u"só dele"), T(u"-"), true), T(u"1"));
-    EXPECT_EQ(registro.ReadString(daMaquina, T(u"só dele"), T(u"-")), T(u"-"));
-    EXPECT_EQ(registro.ReadString(T(u"HKUS\\k"), T(u"s"), T(u"-"), true), T(u"-"));
-    EXPECT_EQ(registro.WriteString(T(u"HKXX\\k"), T(u"s"), T(u"x"), true), 0);
-}
-
-TEST_F(RegistryAccess, ReadsNumbersOfFourBytes)
-{
-    for (const std::int32_t numero : {0, 1, 96, -1, -2, 0x12345678, INT32_MAX, INT32_MIN}) {
-        EXPECT_NE(registro.WriteDWORD(k, T(u"d"), numero), 0);
-        EXPECT_EQ(registro.ReadDWORD(k, T(u"d"), 5), numero);
-    }
-    EXPECT_EQ(registro.ReadDWORD(k, T(u"falta")), -1);
-    EXPECT_EQ(registro.ReadDWORD(k, T(u"falta"), 5), 5);
-    Grava("três", kTipoDword, "abc");
-    Grava("cinco", kTipoDword, "abcde");
-    Grava("binario", kTipoBinario, QByteArray("\x60\x01\0\0", 4));
-    EXPECT_EQ(registro.ReadDWORD(k, T(u"três"), 5), 5);
-    EXPECT_EQ(registro.ReadDWORD(k, T(u"cinco"), 5), 5);
-    EXPECT_EQ(registro.ReadDWORD(k, T(u"binario"), 5), 0x160);
+    EXPECT_FALSE(r.KeyExists(maquina)); // it may only be read
+    EXPECT_EQ(r.EnumKeys(maquina, nomes), 0);
+    EXPECT_EQ(r.WriteString(maquina, u"s"_s, u"x"_s), 0);
+    EXPECT_FALSE(r.KeyExists(k));
+    EXPECT_NE(r.WriteString(maquina, u"s"_s, u"do usuário"_s, true), 0);
+    EXPECT_NE(r.WriteString(maquina, u"só dele"_s, u"1"_s, true), 0);
+    EXPECT_EQ(le(u"s"_s, true) + le(u"s"_s, true, true), u"da máquinado usuário");
+    EXPECT_EQ(le(u"só dele"_s, true) + le(u"só dele"_s, false), u"1-");
+    EXPECT_EQ(r.ReadString(u"HKUS\\k"_s, u"s"_s, u"-"_s, true), u"-");
+    EXPECT_EQ(r.WriteString(u"HKXX\\k"_s, u"s"_s, u"x"_s, true), 0);
 }
 
 TEST_F(RegistryAccess, TurnsHexadecimalTextIntoBytesAndBack)
 {
-    struct Caso
-    {
-        const char16_t *texto;
-        QByteArray bytes;
-    };
-    const std::array casos = {
-        Caso{u"41 0A", "A\n"},
-        Caso{u" 4 1 0a ", "A\n"},
-        Caso{u"00", QByteArray(1, '\0')},
-        Caso{u"", ""},
-        Caso{u"   ", ""},
-        Caso{u"4", ""},              // half a byte: none
-        Caso{u"414", "A\x04"},       // one and a half: two
-        Caso{u"41424", "AB"},        // two and a half: two
-        Caso{u"4142434", "ABC\x04"}, // three and a half: four
-        Caso{u"FFfe", "\xFF\xFE"},   //
-        Caso{u"4G G4", QByteArray("\x04\0", 2)},
+    const std::pair<QString, QByteArray> casos[] = {
+        {u" 4 1 0a "_s, "A\n"},
+        {u"00"_s, QByteArray(1, '\0')},
+        {u"   "_s, ""},
+        {u"4"_s, ""}, // half a byte: none
+        {u"414"_s, "A\x04"},
+        {u"41424"_s, "AB"}, // one and a half: two; two and a half: two
+        {u"4142434"_s, "ABC\x04"},
+        {u"FFfe"_s, "\xFF\xFE"},
+        {u"4G G4"_s, "\x04\0"_ba},
     };
     for (const auto &[texto, bytes] : casos) {
-        EXPECT_EQ(clsRegistryAccess::StrToBin(T(texto)), bytes) << T(texto).toStdString();
+        EXPECT_EQ(clsRegistryAccess::StrToBin(texto), bytes) << qPrintable(texto);
     }
-    EXPECT_EQ(clsRegistryAccess::BinToStr("A\n"), T(u" 41 0A"));
-    EXPECT_EQ(clsRegistryAccess::BinToStr(QByteArray("\0\xFF", 2)), T(u" 00 FF"));
+    EXPECT_EQ(clsRegistryAccess::BinToStr("\0\xFF"_ba), u" 00 FF");
     EXPECT_EQ(clsRegistryAccess::BinToStr({}), QString());
-    for (const char16_t *texto : {u"0a ff", u"0", u" 0123456789abcdefABCDEF "}) {
-        EXPECT_TRUE(clsRegistryAccess::isBinValid(T(texto))) << T(texto).toStdString();
+    for (const QString &texto : {u"0"_s, u" 0123456789abcdefABCDEF "_s}) {
+        EXPECT_TRUE(clsRegistryAccess::isBinValid(texto)) << qPrintable(texto);
     }
-    for (const char16_t *texto : {u"", u"  ", u"0G", u"0a,ff", u"é", u"0x1", u"1\t2", u"１"}) {
-        EXPECT_FALSE(clsRegistryAccess::isBinValid(T(texto))) << T(texto).toStdString();
-    }
-}
-
-TEST_F(RegistryAccess, KeepsBinaryValuesOfAnyLength)
-{
-    EXPECT_EQ(registro.ReadBinary(k, T(u"b"), T(u"padrão")), T(u"padrão"));
-    for (const int tamanho : {0, 1, 255, 256, 5000}) {
-        QByteArray bytes;
-        for (int n = 0; n < tamanho; ++n) {
-            bytes.append(static_cast<char>(n * 7));
-        }
-        const QString texto = AparaBrancos(clsRegistryAccess::BinToStr(bytes));
-        EXPECT_NE(registro.WriteBinary(k, T(u"b"), texto), 0);
-        EXPECT_EQ(registro.ReadBinary(k, T(u"b"), T(u"padrão")), texto);
-        QStringList nomes;
-        std::vector<ValorListado> valores;
-        ASSERT_EQ(registro.EnumValues(k, nomes, valores), 1);
-        EXPECT_EQ(valores[0], ValorListado(texto));
+    for (const QString &texto : {u"  "_s, u"0G"_s, u"0a,ff"_s, u"é"_s, u"1\t2"_s, u"１"_s}) {
+        EXPECT_FALSE(clsRegistryAccess::isBinValid(texto)) << qPrintable(texto);
     }
 }
 
 TEST_F(RegistryAccess, ListsAndKillsValues)
 {
-    QStringList nomes = {T(u"velho")};
+    QStringList nomes = {u"velho"_s};
     std::vector<ValorListado> valores(1);
-    EXPECT_EQ(registro.EnumValues(k, nomes, valores), -1);
+    EXPECT_EQ(r.EnumValues(k, nomes, valores), -1);
     EXPECT_TRUE(nomes.isEmpty() && valores.empty());
-    EXPECT_EQ(registro.KillValue(k, T(u"s")), 0);
-
+    EXPECT_EQ(r.KillValue(k, u"s"_s), 0);
     Grava("outro", 7, "x");
     Grava(" nome ", kTipoTexto, "s");
     Grava(QByteArray(255, 'n'), kTipoTexto, "has no room in a list");
     Grava("longo", kTipoTexto, QByteArray(1025, 'x'));
     Grava("curto", kTipoDword, "abc");
-    registro.WriteString(k, T(u"@"), T(u"padrão"));
-    registro.WriteDWORD(k, T(u"d"), -7);
-    registro.WriteBinary(k, T(u"b"), T(u"0AFF"));
-    EXPECT_EQ(registro.EnumValues(k, nomes, valores), 7);
-    EXPECT_EQ(nomes, QStringList({T(u"outro"), T(u"nome"), T(u"longo"), T(u"curto"), QString(),
-                                  T(u"d"), T(u"b")}));
-    const std::vector<ValorListado> esperado = {std::monostate(), T(u"s"), QString(),  0,
-                                                T(u"padrão"),     -7,      T(u"0A FF")};
-    EXPECT_EQ(valores, esperado);
-    EXPECT_EQ(registro.EnumValues(k, nomes, valores, kTipoDword), 2);
-    EXPECT_EQ(nomes, QStringList({T(u"curto"), T(u"d")}));
+    Grava("d", kTipoDword, "\xF9\xFF\xFF\xFF");
+    Grava("b", kTipoBinario, QByteArray(300, 'a'));
+    EXPECT_EQ(r.EnumValues(k, nomes, valores), 6);
+    EXPECT_EQ(nomes.join(u' '), u"outro nome longo curto d b");
+    EXPECT_EQ(valores, (std::vector<ValorListado>{std::monostate(), u"s"_s, QString(), 0, -7,
+                                                  u"61 "_s.repeated(299) + u"61"_s}));
+    EXPECT_EQ(r.EnumValues(k, nomes, valores, kTipoDword), 2);
+    EXPECT_EQ(nomes, QStringList({u"curto"_s, u"d"_s}));
 
-    EXPECT_TRUE(registro.ValueExists(k, T(u"longo")));
-    EXPECT_NE(registro.KillValue(k, T(u"LONGO")), 0);
-    EXPECT_NE(registro.KillValue(k, T(u"longo")), 0); // the key is there, that is enough
-    EXPECT_FALSE(registro.ValueExists(k, T(u"longo")));
-    EXPECT_FALSE(registro.ValueExists(T(u"HKCU\\falta"), T(u"d")));
+    EXPECT_TRUE(r.ValueExists(k, u"longo"_s));
+    EXPECT_NE(r.KillValue(k, u"LONGO"_s), 0);
+    EXPECT_NE(r.KillValue(k, u"longo"_s), 0); // the key is there, that is enough
+    EXPECT_FALSE(r.ValueExists(k, u"longo"_s));
+    EXPECT_FALSE(r.ValueExists(u"HKCU\\falta"_s, u"d"_s));
 }
 
 #ifndef Q_OS_WIN
 // Where the system has a registry of its own, that holds what it holds.
 TEST(RegistroDoSistema, StartsWithTheValuesThatTheProgramReads)
 {
-    const auto armazem = AbreRegistroDoSistema({120, T(u"/home/conceição/.cache")});
-    clsRegistryAccess registro(*armazem);
-    EXPECT_EQ(
-        registro.ReadDWORD(T(u"HKCU\\Control Panel\\Desktop\\WindowMetrics"), T(u"AppliedDPI")),
-        120);
+    const auto armazem = AbreRegistroDoSistema({120, u"/home/conceição/.cache"_s});
+    clsRegistryAccess r(*armazem);
+    EXPECT_EQ(r.ReadDWORD(u"HKCU\\Control Panel\\Desktop\\WindowMetrics"_s, u"AppliedDPI"_s), 120);
     const QString pastas =
-        T(u"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders");
-    EXPECT_EQ(registro.ReadString(pastas, T(u"Cache")), T(u"/home/conceição/.cache"));
+        u"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders"_s;
+    EXPECT_EQ(r.ReadString(pastas, u"Cache"_s), u"/home/conceição/.cache");
 }
 #endif

@@ -3,80 +3,55 @@
 #include <gtest/gtest.h>
 
 #include "core/machine/chance.h"
-#include <array>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-bool Combina(const char16_t *digitada, const char16_t *doBanco)
+/// Compares, and says by "x" that both texts have come back in capitals.
+QString Compara(QString digitada, QString doBanco)
 {
-    QString a = QString::fromUtf16(digitada);
-    QString b = QString::fromUtf16(doBanco);
-    return ComparaPalavra(a, b);
+    const bool combina = ComparaPalavra(digitada, doBanco);
+    return (combina ? u"= "_s : u"/ "_s) + digitada + u' ' + doBanco;
 }
 
 /// Gives the same value again and again.
-class AcasoFixo final : public Acaso
+struct AcasoFixo final : Acaso
 {
-public:
-    explicit AcasoFixo(double u) : m_u(u) {}
-    double Uniforme() override { return m_u; }
-
-private:
-    double m_u;
+    explicit AcasoFixo(double valor) : u(valor) {}
+    double Uniforme() override { return u; }
+    double u;
 };
 
 } // namespace
 
 TEST(ComparaPalavra, FoldsAccentsOneWayOnly)
 {
-    struct Caso
-    {
-        const char16_t *nome, *digitada, *doBanco;
-        bool combina;
-    };
-    const std::array casos = {
-        Caso{u"same", u"AÇÃO", u"AÇÃO", true},
-        Caso{u"all accents left out", u"ACAO", u"AÇÃO", true},
-        Caso{u"small letters", u"acão", u"AÇÃO", true},
-        Caso{u"another accent", u"AÇÁO", u"AÇÃO", false},
-        Caso{u"accent that the word lacks", u"CÁSA", u"CASA", false},
-        Caso{u"cedilla that the word lacks", u"ÇASA", u"CASA", false},
-        Caso{u"trema left out", u"MULLER", u"MÜLLER", true},
-        Caso{u"too short", u"CAS", u"CASA", false},
-        Caso{u"too long", u"CASAS", u"CASA", false},
-        Caso{u"both empty", u"", u"", true},
-        Caso{u"composed of two characters", u"ma\u0303e", u"MÃE", true},
-    };
-    for (const auto &caso : casos) {
-        EXPECT_EQ(Combina(caso.digitada, caso.doBanco), caso.combina)
-            << QString::fromUtf16(caso.nome).toStdString();
+    const QString simples = u"AEIOUC"_s;
+    const QStringList acentuadas = {u"ÁÀÃÂ"_s, u"ÉÈÊ"_s, u"ÍÌÎ"_s, u"ÓÒÕÔ"_s, u"ÚÙÛÜ"_s, u"Ç"_s};
+    for (qsizetype k = 0; k < simples.size(); ++k) {
+        for (const QString letra : acentuadas[k]) {
+            for (const QString plana : simples) {
+                EXPECT_EQ(Compara(plana, letra)[0] == u'=', plana == simples[k])
+                    << qPrintable(letra);
+                EXPECT_EQ(Compara(letra, plana)[0], u'/') << qPrintable(letra);
+            }
+        }
     }
+    EXPECT_EQ(Compara(u"acão"_s, u"ação"_s), u"= ACÃO AÇÃO");
+    EXPECT_EQ(Compara(u"ma\u0303e"_s, u"MÃE"_s), u"= MÃE MÃE") << "two characters for one";
+    EXPECT_EQ(Compara(u"AÇÁO"_s, u"AÇÃO"_s)[0], u'/');
+    EXPECT_EQ(Compara(u"CAS"_s, u"CASA"_s)[0], u'/');
+    EXPECT_EQ(Compara(u"CASAS"_s, u"CASA"_s)[0], u'/');
+    EXPECT_EQ(Compara({}, {})[0], u'=');
 }
 
-TEST(ComparaPalavra, PutsBothTextsInCapitals)
-{
-    QString a = QStringLiteral("ação");
-    QString b = QStringLiteral("casa");
-    ComparaPalavra(a, b);
-    EXPECT_EQ(a, QStringLiteral("AÇÃO"));
-    EXPECT_EQ(b, QStringLiteral("CASA"));
-}
-
-TEST(Sorteia, IsTrueForOneDrawLessThanThePercentage)
+TEST(Acaso, DrawsByTheStandardsStreamAndIsTrueForOneDrawLessThanThePercentage)
 {
     AcasoFixo quarentaENove(0.489); // the draw 49
     AcasoFixo cinquenta(0.49);      // the draw 50
     EXPECT_TRUE(Sorteia(quarentaENove, 50));
     EXPECT_FALSE(Sorteia(cinquenta, 50));
-    AcasoFixo menor(0.0);
-    AcasoFixo maior(1.0 - 0x1p-53);
-    EXPECT_FALSE(Sorteia(menor, 1));
-    EXPECT_TRUE(Sorteia(maior, 101));
-    EXPECT_FALSE(Sorteia(maior, 100));
-}
-
-TEST(AcasoMersenne, GivesTheStandardStreamAsFiftyThreeBits)
-{
     // The ten thousandth number of the standard's generator with its default seed is known.
     AcasoMersenne acaso(5489);
     double ultimo = 0;
@@ -87,59 +62,37 @@ TEST(AcasoMersenne, GivesTheStandardStreamAsFiftyThreeBits)
     EXPECT_EQ(acaso.Sorteios(), 10000U);
 }
 
-TEST(FormataTempo, CarriesMinutesIntoHoursWithoutLimit)
+TEST(SharedRoutines, TurnTextsAndNumbersIntoOthers)
 {
-    struct Caso
-    {
-        int segundos;
-        const char16_t *texto;
+    const QString sep = u"!*!"_s;
+    const QString resposta = u"!*!x!*!1.6.0!*!!*!fim\r\n"_s;
+    const std::pair<QString, QString> casos[] = {
+        {FormataTempo(0), u"00:00:00"_s},
+        {FormataTempo(3599), u"00:59:59"_s},
+        {FormataTempo(360060), u"100:01:00"_s},
+        {CampoTexto(resposta, sep, 0), {}},
+        {CampoTexto(resposta, sep, 1), u"x"_s},
+        {CampoTexto(resposta, sep, 2), u"1.6.0"_s},
+        {CampoTexto(resposta, sep, 3), {}},
+        {CampoTexto(resposta, sep, 4), u"fim\r\n"_s},
+        {CampoTexto(resposta, sep, 5), {}},
+        {CampoTexto(u"a.b."_s, u"."_s, 2), u"b"_s},
+        {TrocaTexto(u"a b c"_s, u" "_s, u"%20"_s), u"a%20b%20c"_s},
+        {TrocaTexto(u"aabb"_s, u"ab"_s, {}), {}}, // what a removal makes is removed too
+        {TrocaTexto(u"aa"_s, u"a"_s, u"aa"_s), u"aaaa"_s},
+        {TrocaTexto(u"abc"_s, {}, u"x"_s), u"abc"_s},
     };
-    for (const auto &[segundos, texto] :
-         {Caso{0, u"00:00:00"}, Caso{59, u"00:00:59"}, Caso{60, u"00:01:00"},
-          Caso{3599, u"00:59:59"}, Caso{3600, u"01:00:00"}, Caso{86399, u"23:59:59"},
-          Caso{360000, u"100:00:00"}}) {
-        EXPECT_EQ(FormataTempo(segundos), QString::fromUtf16(texto));
+    for (const auto &[resultado, esperado] : casos) {
+        EXPECT_EQ(resultado.toStdString(), esperado.toStdString());
     }
-}
-
-TEST(CampoTexto, SplitsWithBoundarySeparatorsOptional)
-{
-    const QString sep = QStringLiteral("!*!");
-    const QString resposta = QStringLiteral("!*!x!*!1.6.0!*!!*!fim\r\n");
-    EXPECT_EQ(CampoTexto(resposta, sep, 1), QStringLiteral("x"));
-    EXPECT_EQ(CampoTexto(resposta, sep, 2), QStringLiteral("1.6.0"));
-    EXPECT_EQ(CampoTexto(resposta, sep, 3), QString());
-    EXPECT_EQ(CampoTexto(resposta, sep, 4), QStringLiteral("fim\r\n"));
-    EXPECT_EQ(CampoTexto(resposta, sep, 5), QString());
-    EXPECT_EQ(CampoTexto(QStringLiteral("a.b."), QStringLiteral("."), 2), QStringLiteral("b"));
-    EXPECT_EQ(CampoTexto(QString(), sep, 1), QString());
-    EXPECT_EQ(CampoTexto(resposta, sep, 0), QString());
-}
-
-TEST(TrocaTexto, SearchesAnewFromTheStart)
-{
-    const auto troca = [](const char16_t *t, const char16_t *v, const char16_t *n) {
-        return TrocaTexto(QString::fromUtf16(t), QString::fromUtf16(v), QString::fromUtf16(n));
-    };
-    EXPECT_EQ(troca(u"a b c", u" ", u"%20"), QStringLiteral("a%20b%20c"));
-    EXPECT_EQ(troca(u"aabb", u"ab", u""), QString()); // the hit that a removal makes is removed too
-    EXPECT_EQ(troca(u"aa", u"a", u"aa"), QStringLiteral("aaaa"));
-    EXPECT_EQ(troca(u"abc", u"", u"x"), QStringLiteral("abc"));
 }
 
 TEST(MaiorVersion, ComparesTheScoresAsText)
 {
-    struct Caso
-    {
-        const char16_t *local, *remota;
-        bool maior;
-    };
-    for (const auto &[local, remota, maior] :
-         {Caso{u"1.5.1", u"1.6.0", true}, Caso{u"1.5.1", u"1.5.1", false},
-          Caso{u"1.5.1", u"1.10.0", true}, Caso{u"2.0.0", u"1.10.0", false},
-          Caso{u"1.5.1", u"10.0.0", false}, Caso{u"1.5.1", u"2", true},
-          Caso{u"1.5.1", u"1.5.2beta", true}, Caso{u"1.5.1", u"", false}}) {
-        EXPECT_EQ(MaiorVersion(QString::fromUtf16(local), QString::fromUtf16(remota)), maior)
-            << QString::fromUtf16(remota).toStdString();
+    for (const QString &caso :
+         {u"1.5.1 < 1.6.0"_s, u"1.5.1 > 1.5.1"_s, u"1.5.1 < 1.10.0"_s, u"2.0.0 > 1.10.0"_s,
+          u"1.5.1 > 10.0.0"_s, u"1.5.1 < 2"_s, u"1.5.1 < 1.5.2b"_s, u"1.5.1 > "_s}) {
+        const QStringList partes = caso.split(u' ');
+        EXPECT_EQ(MaiorVersion(partes[0], partes[2]), partes[1] == u"<") << qPrintable(caso);
     }
 }

@@ -6,29 +6,27 @@
 /// A second, slow and plain implementation of reading and writing INI text, to hold the real one
 /// against. Each function goes through all lines for each single question.
 
+inline QByteArray AparaLento(QByteArray texto, const QByteArray &letras = " \t")
+{
+    while (!texto.isEmpty() && letras.contains(texto.front())) {
+        texto.remove(0, 1);
+    }
+    while (!texto.isEmpty() && letras.contains(texto.back())) {
+        texto.chop(1);
+    }
+    return texto;
+}
+
 /// The lines of `texto`, each with its end.
-inline QByteArrayList LinhasLentas(QByteArray texto)
+inline QByteArrayList LinhasLentas(const QByteArray &texto)
 {
     QByteArrayList linhas = {QByteArray()};
     for (qsizetype k = 0; k < texto.size(); ++k) {
         linhas.last() += texto[k];
-        const bool meio = texto[k] == '\r' && k + 1 < texto.size() && texto[k + 1] == '\n';
-        if (!meio && (texto[k] == '\r' || texto[k] == '\n')) {
-            linhas.append(QByteArray());
-        }
+        const bool meio = texto.mid(k, 2) == "\r\n";
+        if (!meio && (texto[k] == '\r' || texto[k] == '\n')) linhas.append(QByteArray());
     }
     return linhas;
-}
-
-inline QByteArray AparaLento(QByteArray texto)
-{
-    while (texto.startsWith(' ') || texto.startsWith('\t')) {
-        texto.remove(0, 1);
-    }
-    while (texto.endsWith(' ') || texto.endsWith('\t')) {
-        texto.chop(1);
-    }
-    return texto;
 }
 
 inline QByteArray SemNulLento(const QByteArray &texto)
@@ -36,19 +34,15 @@ inline QByteArray SemNulLento(const QByteArray &texto)
     return texto.split('\0').first();
 }
 
-/// Where the line is a header: its name in small letters behind a "[". Where it is a key: its name
-/// in small letters behind a "=". Else empty.
-inline QByteArray NomeLento(QByteArray linha)
+/// Where the line is a header: its name behind a "[". Where it is a key: its name behind a "=".
+/// Else empty.
+inline QByteArray NomeLento(const QByteArray &inteira)
 {
-    linha.replace('\r', "").replace('\n', "");
-    linha = AparaLento(linha);
-    if (linha.isEmpty() || linha.startsWith(';')) {
-        return {};
-    }
-    if (linha.startsWith('[') && linha.contains(']')) {
-        return '[' + SemNulLento(AparaLento(linha.mid(1).split(']').first())).toLower();
-    }
-    return '=' + SemNulLento(AparaLento(linha.split('=').first())).toLower();
+    const QByteArray linha = AparaLento(AparaLento(inteira, "\r\n"));
+    if (linha.isEmpty() || linha.startsWith(';')) return {};
+    const bool cabecalho = linha.startsWith('[') && linha.contains(']');
+    const auto nome = cabecalho ? linha.mid(1).split(']').first() : linha.split('=').first();
+    return (cabecalho ? '[' : '=') + SemNulLento(AparaLento(nome));
 }
 
 /// Index of the key's line, or of the last line of the section's header and keys with `achou`
@@ -60,18 +54,11 @@ inline qsizetype ProcuraLento(const QByteArrayList &linhas, const QByteArray &se
     const QByteArray nome = '=' + AparaLento(SemNulLento(chave)).toLower();
     qsizetype ultima = -1;
     achou = false;
-    for (qsizetype k = 0; k < linhas.size(); ++k) {
-        const auto lido = NomeLento(linhas[k]);
-        if (lido.startsWith('[') && ultima >= 0) {
-            return ultima;
-        }
-        if (lido == cabecalho || (lido.startsWith('=') && ultima >= 0)) {
-            ultima = k;
-        }
-        if (ultima >= 0 && lido == nome) {
-            achou = true;
-            return k;
-        }
+    for (qsizetype k = 0; k < linhas.size() && !achou; ++k) {
+        const auto lido = NomeLento(linhas[k]).toLower();
+        if (lido.startsWith('[') && ultima >= 0) return ultima;
+        if (lido == cabecalho || (lido.startsWith('=') && ultima >= 0)) ultima = k;
+        achou = ultima >= 0 && lido == nome;
     }
     return ultima;
 }
@@ -82,13 +69,10 @@ inline QByteArray ValorLento(const QByteArray &texto, const QByteArray &secao,
     const auto linhas = LinhasLentas(texto);
     bool achou = false;
     const auto k = ProcuraLento(linhas, secao, chave, achou);
-    if (!achou || !linhas[k].contains('=')) {
-        return {};
-    }
-    auto valor = linhas[k].mid(linhas[k].indexOf('=') + 1);
-    valor.replace('\r', "").replace('\n', "");
-    valor = SemNulLento(AparaLento(valor));
-    for (const char aspa : {'"', '\''}) {
+    if (!achou || !linhas[k].contains('=')) return {};
+    const auto linha = AparaLento(linhas[k], "\r\n");
+    const auto valor = SemNulLento(AparaLento(linha.mid(linha.indexOf('=') + 1)));
+    for (const char *aspa : {"\"", "'"}) {
         if (valor.size() > 1 && valor.startsWith(aspa) && valor.endsWith(aspa)) {
             return valor.mid(1, valor.size() - 2).left(254);
         }
@@ -100,23 +84,19 @@ inline QByteArray ValorLento(const QByteArray &texto, const QByteArray &secao,
 inline QByteArray GravadoLento(QByteArray texto, const QByteArray &secao, const QByteArray &chave,
                                const QByteArray &valor)
 {
-    if (!texto.isEmpty() && !texto.endsWith('\r') && !texto.endsWith('\n')) {
-        texto += "\r\n";
-    }
+    const auto semAntes = [](const QByteArray &nome) {
+        return nome.mid(nome.indexOf(AparaLento(nome)));
+    };
+    texto += texto.isEmpty() || texto.endsWith('\r') || texto.endsWith('\n') ? "" : "\r\n";
     auto linhas = LinhasLentas(texto);
     bool achou = false;
     auto k = ProcuraLento(linhas, secao, chave, achou);
     if (k < 0) {
-        linhas.append('[' + secao.mid(secao.indexOf(AparaLento(secao))) + "]\r\n");
+        linhas.append('[' + semAntes(secao) + "]\r\n");
         k = linhas.size() - 1;
     }
-    if (achou) {
-        const auto grafia = linhas[k].mid(linhas[k].toLower().indexOf(NomeLento(linhas[k]).mid(1)),
-                                          NomeLento(linhas[k]).size() - 1);
-        linhas[k] = grafia + '=' + SemNulLento(valor) + "\r\n";
-    } else {
-        linhas.insert(k + 1, chave.mid(chave.indexOf(AparaLento(chave))) + '=' +
-                                 SemNulLento(valor) + "\r\n");
-    }
+    const auto grafia = achou ? NomeLento(linhas[k]).mid(1) : semAntes(chave);
+    if (achou) linhas.removeAt(k--);
+    linhas.insert(k + 1, grafia + '=' + SemNulLento(valor) + "\r\n");
     return linhas.join();
 }

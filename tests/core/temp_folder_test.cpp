@@ -4,31 +4,26 @@
 
 #include "core/registry/registry_access.h"
 #include "core/registry/registry_store_portable.h"
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include "tests/core/test_files.h"
+
+using namespace Qt::Literals::StringLiterals;
 
 TEST(PastaTemporaria, TakesTheVariableIfItIsADirectoryElseTheRegistrysCache)
 {
-    const QTemporaryDir pasta;
-    const QString existente = QDir::toNativeSeparators(pasta.path());
-    const QString arquivo = pasta.filePath(QStringLiteral("arquivo"));
-    ASSERT_TRUE(QFile(arquivo).open(QIODevice::WriteOnly));
-    const QString cache = QStringLiteral("C:\\Usuários\\João\\Cache");
+    const PastaDeTeste pasta;
+    const QString existente = QDir::toNativeSeparators(QDir::cleanPath(pasta.Caminho("")));
+    const QString cache = u"C:\\Usuários\\João\\Cache"_s;
     const QString barra = QDir::separator();
-
-    const auto armazem = std::make_unique<RegistroPortatil>();
-    clsRegistryAccess registro(*armazem);
+    RegistroPortatil armazem;
+    clsRegistryAccess registro(armazem);
     const auto com = [&](const QString &temp) {
-        return PastaTemporaria(registro, [&](const QString &nome) {
-            return nome == u"TEMP" ? temp : QStringLiteral("outra variável");
-        });
+        return PastaTemporaria(
+            registro, [&](const QString &nome) { return nome == u"TEMP" ? temp : u"outra"_s; });
     };
-    EXPECT_EQ(com(QString()), barra); // neither is there
-    ASSERT_NE(registro.WriteString(kChaveDasPastas.toString(), kValorCache.toString(), cache), 0);
+    EXPECT_EQ(com({}), barra); // neither is there
+    registro.WriteString(kChaveDasPastas.toString(), kValorCache.toString(), cache);
     EXPECT_EQ(com(existente), existente + barra);
     EXPECT_EQ(com(existente + barra), existente + barra);
-    EXPECT_EQ(com(QString()), cache + barra);
-    EXPECT_EQ(com(arquivo), cache + barra);
-    EXPECT_EQ(com(existente + QStringLiteral("-falta")), cache + barra);
+    EXPECT_EQ(com(pasta.Arquivo("arquivo", {})), cache + barra);
+    EXPECT_EQ(com(existente + u"-falta"_s), cache + barra);
 }

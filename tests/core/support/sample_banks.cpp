@@ -37,26 +37,6 @@ QByteArray RegistrosDe(const std::vector<QByteArray> &palavras)
     return bytes;
 }
 
-QByteArray SorteiaRegistros(const FeitioBanco &feitio, std::uint64_t semente)
-{
-    std::mt19937_64 gerador(semente);
-    std::vector<QByteArray> palavras;
-    while (palavras.size() < size_t(feitio.quantas)) {
-        const int sorte = Ate(gerador, 100);
-        QByteArray palavra;
-        if (sorte < feitio.repetidas && !palavras.empty()) {
-            palavra = palavras[size_t(Ate(gerador, qsizetype(palavras.size())))];
-        } else if (sorte < 100 - feitio.vazias) {
-            const int n = feitio.menor + Ate(gerador, feitio.maior - feitio.menor + 1);
-            while (palavra.size() < n) {
-                palavra += LetraDe(gerador, feitio.letras);
-            }
-        }
-        palavras.push_back(palavra);
-    }
-    return RegistrosDe(palavras);
-}
-
 std::vector<QByteArray> PalavrasDeSilabas(int quantas, std::uint64_t semente,
                                           const ParteDosComprimentos &partes)
 {
@@ -87,14 +67,14 @@ std::vector<QString> LePalavrasLento(const QByteArray &registros)
 {
     std::vector<QString> palavras(1);
     for (qsizetype r = 0; r < 3000 && (r + 1) * 76 <= registros.size(); ++r) {
-        QString campo = DeCodePage(registros.mid(r * 76, 15));
-        while (campo.startsWith(u' ')) {
-            campo.remove(0, 1);
-        }
-        while (campo.endsWith(u' ')) {
-            campo.chop(1);
-        }
-        palavras.push_back(campo);
+        const QString campo = DeCodePage(registros.mid(r * 76, 15));
+        qsizetype a = 0;
+        qsizetype b = campo.size();
+        while (a < b && campo[a] == u' ')
+            ++a;
+        while (b > a && campo[b - 1] == u' ')
+            --b;
+        palavras.push_back(campo.mid(a, b - a));
     }
     return palavras;
 }

@@ -8,23 +8,8 @@
 /// Question banks for tests and measurements. All chance comes from std::mt19937_64 by remainders,
 /// so that a seed gives the same bank on every platform.
 
-/// How the words of a drawn bank look: `quantas` entries of `menor` to `maior` letters out of
-/// `letras`; of each hundred, about `repetidas` repeat an earlier entry and `vazias` are empty.
-struct FeitioBanco
-{
-    int quantas;
-    int menor;
-    int maior;
-    QByteArray letras;
-    int repetidas = 0;
-    int vazias = 0;
-};
-
 /// The bytes of a bank's file: each word with a clue that names its entry.
 QByteArray RegistrosDe(const std::vector<QByteArray> &palavras);
-
-/// The bytes of a drawn bank's file.
-QByteArray SorteiaRegistros(const FeitioBanco &feitio, std::uint64_t semente);
 
 /// Parts of a bank's words by their length, from 3 letters on.
 using ParteDosComprimentos = std::vector<int>;
