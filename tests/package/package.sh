@@ -30,22 +30,30 @@ mkdir -p "$(dirname "$folder")"
 tar -xzf "$archive" -C "$(dirname "$folder")"
 (cd "$folder" && find . -type f | sort) >"$work/found"
 {
-  printf './%s\n' quadrelo Perguntas.tes LEIA-ME.md instalar.sh docs/tabuleiro.png docs/balao.png \
-    {acerto1,acerto2,click,erro1,erro2,select}.wav translations/qtbase_pt_BR.qm \
+  printf './%s\n' quadrelo Perguntas.tes LEIA-ME.md PROFESSORES.md instalar.sh docs/tabuleiro.png docs/balao.png \
+    ferramentas/{compila_banco,monta,corpo-humano.csv} {acerto1,acerto2,click,erro1,erro2,select}.wav translations/qtbase_pt_BR.qm \
     linux/{$id.desktop,$id.metainfo.xml,quadrelo.svg} linux/Icone{16,22,24,32,48,64,128,256}.png
 } | sort >"$work/wanted"
 diff "$work/wanted" "$work/found" || die "the package holds other files than it should"
 # The folder of the build holds all of it but what a desktop needs.
 grep -v -e /linux/ -e instalar.sh "$work/found" | while read -r file; do
-  cmp -s "$folder/$file" "$build/Quadrelo/$file" || [ "$file" = ./quadrelo ] || echo "$file"
+  cmp -s "$folder/$file" "$build/Quadrelo/$file" || [ -x "$build/Quadrelo/$file" ] || echo "$file"
 done >"$work/missing"
 [ ! -s "$work/missing" ] || die "the build's folder lacks $(cat "$work/missing")"
 [ -d "$folder/Dados" ] || die "the folder for what the game writes is missing"
-readelf -S "$folder/quadrelo" | grep -q '\.symtab' && die "the executable is not stripped"
-readelf -d "$folder/quadrelo" | grep -qE 'RPATH|RUNPATH' && die "the executable looks for its libraries by a path"
+for program in quadrelo ferramentas/compila_banco ferramentas/monta; do
+  readelf -S "$folder/$program" | grep -q '\.symtab' && die "$program is not stripped"
+  readelf -d "$folder/$program" | grep -qE 'RPATH|RUNPATH' && die "$program looks for its libraries by a path"
+done
 for picture in $(grep -o '](docs/[^)]*)' "$folder/LEIA-ME.md" | tr -d ']()'); do
   [ -s "$folder/$picture" ] || die "LEIA-ME.md shows $picture, which is not there"
 done
+
+# A list becomes a bank beside it, and the bank a sheet.
+cp "$folder/ferramentas/corpo-humano.csv" "$work/lista.csv"
+"$folder/ferramentas/compila_banco" "$work/lista.csv" >"$work/log" 2>&1 || die "$(cat "$work/log")"
+"$folder/ferramentas/monta" "$work/Perguntas.tes" >"$work/log" 2>&1 || die "$(cat "$work/log")"
+grep -q '</html>' "$work"/Folha-*.html || die "no sheet was made"
 
 # Into the menu.
 unset XDG_DATA_HOME
