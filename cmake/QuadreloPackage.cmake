@@ -49,6 +49,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     list(APPEND icones assets/figuras/Icone${lado}.png)
   endforeach()
   install(PROGRAMS assets/linux/instalar.sh DESTINATION ${lugar})
+  install(PROGRAMS assets/linux/abrir.sh DESTINATION ${lugar}/linux)
   install(FILES assets/linux/${QUADRELO_ID}.desktop ${QUADRELO_FICHA} ${icones} assets/figuras/quadrelo.svg
     DESTINATION ${lugar}/linux)
 endif()
