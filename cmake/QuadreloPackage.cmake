@@ -39,7 +39,7 @@ endif()
 string(TOLOWER ${CMAKE_SYSTEM_NAME} sistema)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   # The name of the menu entry is how a desktop knows whose window it sees.
-  set(QUADRELO_ID example.quadrelo.Quadrelo)
+  set(QUADRELO_ID com.example.quadrelo)
   target_compile_definitions(quadrelo PRIVATE QUADRELO_ID="${QUADRELO_ID}")
   target_link_options(quadrelo PRIVATE $<$<CONFIG:Release>:-s>)
 

@@ -6,7 +6,7 @@
 # Para um usuário só, o jogo continua nesta pasta; depois de mudá-la de lugar, rode o script outra vez.
 set -eu
 
-ID=example.quadrelo.Quadrelo
+ID=com.example.quadrelo
 TAMANHOS="16 22 24 32 48 64 128 256"
 
 erro() {

@@ -17,7 +17,7 @@ die() {
   exit 1
 }
 
-id=example.quadrelo.Quadrelo
+id=com.example.quadrelo
 "$cpack" --config "$build/CPackConfig.cmake" -B "$work/pack" >"$work/cpack.log" 2>&1 ||
   die "no package: $(tail -n 5 "$work/cpack.log")"
 archive=$work/pack/Quadrelo-$version-linux.tar.gz
@@ -54,7 +54,7 @@ share=$home/.local/share
 entry=$share/applications/$id.desktop
 if command -v desktop-file-validate >/dev/null; then desktop-file-validate "$entry"; fi
 if command -v appstreamcli >/dev/null; then
-  appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml" >"$work/log" || die "$(cat "$work/log")"
+  appstreamcli validate --strict --no-net "$share/metainfo/$id.metainfo.xml" >"$work/log" || die "$(cat "$work/log")"
 fi
 for size in 16 22 24 32 48 64 128 256; do
   png=$share/icons/hicolor/${size}x$size/apps/$id.png
