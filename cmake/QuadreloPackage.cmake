@@ -31,7 +31,8 @@ set(lugar Quadrelo)
 install(TARGETS quadrelo RUNTIME DESTINATION ${lugar})
 install(FILES ${QUADRELO_FOLDER}/Perguntas.tes ${sons_da_pasta} LEIA-ME.md DESTINATION ${lugar})
 install(FILES docs/tabuleiro.png docs/balao.png DESTINATION ${lugar}/docs)
-install(DIRECTORY DESTINATION ${lugar}/Dados)
+# Not an empty folder: some who unpack would leave it out.
+install(FILES assets/Dados.txt DESTINATION ${lugar}/Dados RENAME LEIA-ME.txt)
 if(QUADRELO_QM)
   install(FILES ${traducao} DESTINATION ${lugar}/translations)
 endif()
@@ -54,22 +55,24 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     DESTINATION ${lugar}/linux)
 endif()
 
-set(CPACK_GENERATOR TGZ)
-if(WIN32)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  set(empacota ${PROJECT_SOURCE_DIR}/tools/make-linux-package ${PROJECT_BINARY_DIR})
+else()
   set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_NAME Quadrelo)
+  set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+  set(CPACK_PACKAGE_FILE_NAME Quadrelo-${PROJECT_VERSION}-${sistema})
+  # The archive holds the folder "Quadrelo" and nothing round it.
+  set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+  set(CPACK_PACKAGING_INSTALL_PREFIX /)
+  set(CPACK_STRIP_FILES ON)
+  set(CPACK_VERBATIM_VARIABLES ON)
+  include(CPack)
+  set(empacota ${CMAKE_CPACK_COMMAND})
 endif()
-set(CPACK_PACKAGE_NAME Quadrelo)
-set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
-set(CPACK_PACKAGE_FILE_NAME Quadrelo-${PROJECT_VERSION}-${sistema})
-# The archive holds the folder "Quadrelo" and nothing round it.
-set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
-set(CPACK_PACKAGING_INSTALL_PREFIX /)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_VERBATIM_VARIABLES ON)
-include(CPack)
 
 add_custom_target(pacote
-  COMMAND ${CMAKE_CPACK_COMMAND}
+  COMMAND ${empacota}
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
   COMMENT "Packing the portable folder" VERBATIM USES_TERMINAL)
 add_dependencies(pacote quadrelo banco sons_da_pasta)

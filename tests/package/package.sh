@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Makes the package, unpacks it where a player might, puts the game into the menu and takes it out again, and
 # starts it once.
-#   package.sh CPACK BUILD-DIRECTORY VERSION
+#   package.sh MAKE-LINUX-PACKAGE BUILD-DIRECTORY VERSION
 set -eu
-cpack=$1 build=$2 version=$3
+pack=$1 build=$2 version=$3
 work=$(mktemp -d)
 game=
 cleanup() {
@@ -18,10 +18,13 @@ die() {
 }
 
 id=com.example.quadrelo
-"$cpack" --config "$build/CPackConfig.cmake" -B "$work/pack" >"$work/cpack.log" 2>&1 ||
-  die "no package: $(tail -n 5 "$work/cpack.log")"
+export SOURCE_DATE_EPOCH=1000000000
+"$pack" "$build" "$work/pack" >"$work/log" 2>&1 || die "no package: $(tail -n 5 "$work/log")"
 archive=$work/pack/Quadrelo-$version-linux.tar.gz
 [ -s "$archive" ] || die "the package has another name: $(ls "$work/pack")"
+sleep 1
+(umask 077 && "$pack" "$build" "$work/again" >/dev/null)
+cmp "$archive" "$work/again/$(basename "$archive")" || die "packed again it is another package"
 
 # What is in it: these files, no others, and nothing of the developer's own games.
 home=$work/"Casa da Conceição"
@@ -30,7 +33,7 @@ mkdir -p "$(dirname "$folder")"
 tar -xzf "$archive" -C "$(dirname "$folder")"
 (cd "$folder" && find . -type f | sort) >"$work/found"
 {
-  printf './%s\n' quadrelo Perguntas.tes LEIA-ME.md instalar.sh docs/tabuleiro.png docs/balao.png \
+  printf './%s\n' quadrelo Perguntas.tes LEIA-ME.md Dados/LEIA-ME.txt instalar.sh docs/tabuleiro.png docs/balao.png \
     {acerto1,acerto2,click,erro1,erro2,select}.wav translations/qtbase_pt_BR.qm \
     linux/{abrir.sh,$id.desktop,$id.metainfo.xml,quadrelo.svg} linux/Icone{16,22,24,32,48,64,128,256}.png
 } | sort >"$work/wanted"
@@ -40,11 +43,10 @@ grep -v -e /linux/ -e instalar.sh "$work/found" | while read -r file; do
   cmp -s "$folder/$file" "$build/Quadrelo/$file" || [ "$file" = ./quadrelo ] || echo "$file"
 done >"$work/missing"
 [ ! -s "$work/missing" ] || die "the build's folder lacks $(cat "$work/missing")"
-[ -d "$folder/Dados" ] || die "the folder for what the game writes is missing"
 readelf -S "$folder/quadrelo" | grep -q '\.symtab' && die "the executable is not stripped"
 readelf -d "$folder/quadrelo" | grep -qE 'RPATH|RUNPATH' && die "the executable looks for its libraries by a path"
-for picture in $(grep -o '](docs/[^)]*)' "$folder/LEIA-ME.md" | tr -d ']()'); do
-  [ -s "$folder/$picture" ] || die "LEIA-ME.md shows $picture, which is not there"
+for picture in $(grep -oh 'docs/[^)<]*\.png' "$folder/LEIA-ME.md" "$folder/linux/$id.metainfo.xml"); do
+  [ -s "$folder/$picture" ] || die "$picture is shown, but not there"
 done
 
 # Into the menu.
