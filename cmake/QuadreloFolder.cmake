@@ -1,12 +1,12 @@
 # The portable folder that a player gets: the executable, the question bank, the six sounds, what there is to
-# read with its pictures, the programs for banks of one's own, and an empty folder for what the game writes.
+# read with its pictures, the programs for banks of one's own, and the folder for what the game writes.
 set(QUADRELO_FOLDER ${PROJECT_BINARY_DIR}/Quadrelo)
 set_target_properties(quadrelo PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${QUADRELO_FOLDER})
 
 quadrelo_compile_bank(banco ${PROJECT_SOURCE_DIR}/assets/perguntas.tsv ${QUADRELO_FOLDER}/Perguntas.tes)
 add_dependencies(quadrelo banco)
 
-file(MAKE_DIRECTORY ${QUADRELO_FOLDER}/Dados)
+configure_file(assets/Dados.txt ${QUADRELO_FOLDER}/Dados/LEIA-ME.txt COPYONLY)
 foreach(som click select acerto1 acerto2 erro1 erro2)
   add_custom_command(OUTPUT ${QUADRELO_FOLDER}/${som}.wav
     COMMAND ${CMAKE_COMMAND} -E copy ${PROJECT_SOURCE_DIR}/assets/sons/${som}.wav ${QUADRELO_FOLDER}

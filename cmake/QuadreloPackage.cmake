@@ -34,7 +34,8 @@ install(FILES ${QUADRELO_FOLDER}/Perguntas.tes ${sons_da_pasta} LEIA-ME.md PROFE
 install(TARGETS compila_banco monta RUNTIME DESTINATION ${lugar}/ferramentas)
 install(FILES ${QUADRELO_EXEMPLO} DESTINATION ${lugar}/ferramentas)
 install(FILES docs/tabuleiro.png docs/balao.png DESTINATION ${lugar}/docs)
-install(DIRECTORY DESTINATION ${lugar}/Dados)
+# Not an empty folder: some who unpack would leave it out.
+install(FILES assets/Dados.txt DESTINATION ${lugar}/Dados RENAME LEIA-ME.txt)
 if(QUADRELO_QM)
   install(FILES ${traducao} DESTINATION ${lugar}/translations)
 endif()
@@ -42,7 +43,7 @@ endif()
 string(TOLOWER ${CMAKE_SYSTEM_NAME} sistema)
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
   # The name of the menu entry is how a desktop knows whose window it sees.
-  set(QUADRELO_ID example.quadrelo.Quadrelo)
+  set(QUADRELO_ID com.example.quadrelo)
   target_compile_definitions(quadrelo PRIVATE QUADRELO_ID="${QUADRELO_ID}")
   foreach(programa quadrelo compila_banco monta)
     target_link_options(${programa} PRIVATE $<$<CONFIG:Release>:-s>)
@@ -54,26 +55,29 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     list(APPEND icones assets/figuras/Icone${lado}.png)
   endforeach()
   install(PROGRAMS assets/linux/instalar.sh DESTINATION ${lugar})
+  install(PROGRAMS assets/linux/abrir.sh DESTINATION ${lugar}/linux)
   install(FILES assets/linux/${QUADRELO_ID}.desktop ${QUADRELO_FICHA} ${icones} assets/figuras/quadrelo.svg
     DESTINATION ${lugar}/linux)
 endif()
 
-set(CPACK_GENERATOR TGZ)
-if(WIN32)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  set(empacota ${PROJECT_SOURCE_DIR}/tools/make-linux-package ${PROJECT_BINARY_DIR})
+else()
   set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_NAME Quadrelo)
+  set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+  set(CPACK_PACKAGE_FILE_NAME Quadrelo-${PROJECT_VERSION}-${sistema})
+  # The archive holds the folder "Quadrelo" and nothing round it.
+  set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
+  set(CPACK_PACKAGING_INSTALL_PREFIX /)
+  set(CPACK_STRIP_FILES ON)
+  set(CPACK_VERBATIM_VARIABLES ON)
+  include(CPack)
+  set(empacota ${CMAKE_CPACK_COMMAND})
 endif()
-set(CPACK_PACKAGE_NAME Quadrelo)
-set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
-set(CPACK_PACKAGE_FILE_NAME Quadrelo-${PROJECT_VERSION}-${sistema})
-# The archive holds the folder "Quadrelo" and nothing round it.
-set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
-set(CPACK_PACKAGING_INSTALL_PREFIX /)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_VERBATIM_VARIABLES ON)
-include(CPack)
 
 add_custom_target(pacote
-  COMMAND ${CMAKE_CPACK_COMMAND}
+  COMMAND ${empacota}
   WORKING_DIRECTORY ${PROJECT_BINARY_DIR}
   COMMENT "Packing the portable folder" VERBATIM USES_TERMINAL)
 add_dependencies(pacote quadrelo banco sons_da_pasta)
