@@ -148,7 +148,6 @@ TEST(Acessibilidade, PressDoesWhatAClickDoes)
     Ouvinte::Pressiona(jogo.c().Image2);
     EXPECT_EQ(jogo.maquina.fins, 2);
     EXPECT_EQ(Ouvinte::Nome(jogo.c().Image8), QStringLiteral("Sobre o Quadrelo"));
-    EXPECT_EQ(jogo.FaltaNoEstado(), QString());
 }
 
 TEST(Acessibilidade, PressesNothingWhileABoardIsBuilt)
@@ -183,7 +182,6 @@ TEST(Acessibilidade, PressesNothingWhileABoardIsBuilt)
               QStringList({QStringLiteral("click.wav"), QStringLiteral("select.wav")}));
     EXPECT_EQ(jogo.d().estado.item, 1);
     EXPECT_FALSE(Ouvinte::Inativo(Entrada(jogo, 1)));
-    EXPECT_EQ(jogo.FaltaNoEstado(), QString());
 }
 
 TEST(Acessibilidade, AnnouncesEachMessageAndKeepsThePlayerInItsBox)
@@ -293,7 +291,6 @@ TEST(Acessibilidade, WritesOnlyWhereTheCursorStands)
     }
     EXPECT_TRUE(jogo.d().Item(1).ItemResolvido);
     EXPECT_EQ(Ouvinte::De(Comeco(jogo, 1)).text(QAccessible::Value), QString(palavra[0]));
-    EXPECT_EQ(jogo.FaltaNoEstado(), QString());
 }
 
 TEST(Acessibilidade, BannerLeavesTheTreeWithItsSecond)

@@ -90,35 +90,6 @@ TEST_F(Ranking, TakesTheTimeOfAFinishedGame)
     EXPECT_EQ(dialogos.Pendentes(), 0U);
 }
 
-TEST_F(Ranking, GivesPlacesBelowEqualTimes)
-{
-    struct Caso
-    {
-        int t;
-        const char16_t *nomes;
-    };
-    for (const Caso &caso :
-         {Caso{99, u"XABCD"}, Caso{250, u"ABXCD"}, Caso{200, u"ABXCD"}, Caso{499, u"ABCDX"}}) {
-        SCOPED_TRACE(caso.t);
-        CincoLugares();
-        EsperaNome(QStringLiteral("X"));
-        EXPECT_TRUE(VerificaRecords(jogo.Dialogo(), caso.t));
-        EXPECT_EQ(Nomes(), QString::fromUtf16(caso.nomes));
-    }
-    CincoLugares();
-    const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
-    EXPECT_FALSE(VerificaRecords(jogo.Dialogo(), 500));
-    EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
-}
-
-TEST_F(Ranking, CongratulatesWhereTheTimeGetsNoPlace)
-{
-    CincoLugares();
-    jogo.maquina.agora += 500;
-    jogo.ResolveAte(kItens);
-    EXPECT_EQ(jogo.maquina.mensagens, QStringList(QStringLiteral("Parabéns !!!")));
-}
-
 TEST_F(Ranking, TakesANameOnEveryWayOfClosing)
 {
     struct Caso

@@ -1,21 +1,11 @@
 #include "ui/gameplay/commands.h"
 
+#include "core/machine/prices.h"
 #include "core/machine/shared_routines.h"
 #include "core/machine/sound.h"
+#include "core/machine/texts.h"
 #include "ui/gameplay/selection.h"
 #include "ui/gameplay/word_check.h"
-
-namespace {
-
-/// Price of a letter, in seconds.
-constexpr double kPrecoSocorro = 120;
-
-PedidoMensagem SemJogo()
-{
-    return {QStringLiteral("Não há nenhum jogo no tabuleiro.\rClique em 'Novo Jogo'")};
-}
-
-} // namespace
 
 void Comandos::Label3_MouseDown(int Index)
 {
@@ -29,7 +19,7 @@ void Comandos::Label3_MouseUp(int Index)
 
 void Comandos::Label3_Click(int Index)
 {
-    TocaSom(d.valores, d.ambiente, u"click.wav");
+    TocaSom(d.valores, d.ambiente, Som::Clique);
     switch (Index) {
     case 0:
         PrimeiraEntrada();
@@ -91,12 +81,11 @@ void Comandos::Desiste()
 void Comandos::Reinicia()
 {
     if (d.estado.TudoResolvido) {
-        d.ambiente.mensagem(
-            {QStringLiteral("O jogo atual já está resolvido.\rClique em 'Novo Jogo'")});
+        d.ambiente.mensagem({texto::JogoResolvido()});
         return;
     }
     if (d.tabuleiro.QtdItens < kItens) {
-        d.ambiente.mensagem(SemJogo());
+        d.ambiente.mensagem({texto::SemJogo()});
         return;
     }
     for (int i = 1; i <= kCelulas; ++i) {
@@ -117,9 +106,9 @@ void Comandos::Reinicia()
 void Comandos::Salva()
 {
     if (d.estado.TudoResolvido) {
-        d.ambiente.mensagem({QStringLiteral("O jogo atual já está completamente resolvido")});
+        d.ambiente.mensagem({texto::NadaASalvar()});
     } else if (d.tabuleiro.QtdItens < kItens) {
-        d.ambiente.mensagem(SemJogo());
+        d.ambiente.mensagem({texto::SemJogo()});
     } else {
         AbreSalvar();
     }
@@ -127,15 +116,13 @@ void Comandos::Salva()
 
 void Comandos::Image2_Click()
 {
-    TocaSom(d.valores, d.ambiente, u"click.wav");
+    TocaSom(d.valores, d.ambiente, Som::Clique);
     d.ambiente.terminaProcesso();
 }
 
 void Comandos::Label4_Click()
 {
-    const Resposta resposta = d.ambiente.mensagem(
-        {QStringLiteral("Uma letra será revelada e dois minutos serão acrescentados ao seu tempo"),
-         Botoes::OkCancelar});
+    const Resposta resposta = d.ambiente.mensagem({texto::SocorroPergunta(), Botoes::OkCancelar});
     if (resposta == Resposta::Cancelar) {
         return;
     }
@@ -150,7 +137,7 @@ void Comandos::Label4_Click()
     if (d.tabuleiro.Partida != partida) {
         return;
     }
-    d.valores.HoraInicio -= kPrecoSocorro;
+    d.valores.HoraInicio -= 60 * kMinutosSocorro;
     celula.SetBackColor(kCorFixa);
     d.Quadrado(c).Fixa = true;
     // A wrong check has wiped the free cells, this one among them.

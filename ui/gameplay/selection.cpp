@@ -12,7 +12,7 @@ constexpr float kRecuoMarca = 30;
 Achado Selecao::Lbt_Click(int Index)
 {
     if (d.estado.NoClick) {
-        TocaSom(d.valores, d.ambiente, u"select.wav");
+        TocaSom(d.valores, d.ambiente, Som::Selecao);
     }
     d.estado.NoClick = true;
     // Where no game stands there is no item behind the buttons.

@@ -2,6 +2,7 @@
 
 #include "core/machine/shared_routines.h"
 #include "core/machine/sound.h"
+#include "core/machine/texts.h"
 
 #include <utility>
 
@@ -56,7 +57,7 @@ QString Verificacao::Digitado(const RegistroItem &item) const
 
 void Verificacao::Errada(int i)
 {
-    TocaSom(d.valores, d.ambiente, Sorteia(*d.ambiente.acaso, 50) ? u"erro1.wav" : u"erro2.wav");
+    TocaSom(d.valores, d.ambiente, Sorteia(*d.ambiente.acaso, 50) ? Som::Erro1 : Som::Erro2);
     d.estado.NoClick = false;
     const RegistroItem &item = d.Item(i);
     for (int k = 0; k < item.Palavra.size(); ++k) {
@@ -72,8 +73,7 @@ void Verificacao::Errada(int i)
 /// As Julga.
 int Verificacao::Certa(int i)
 {
-    TocaSom(d.valores, d.ambiente,
-            Sorteia(*d.ambiente.acaso, 60) ? u"acerto1.wav" : u"acerto2.wav");
+    TocaSom(d.valores, d.ambiente, Sorteia(*d.ambiente.acaso, 60) ? Som::Acerto1 : Som::Acerto2);
     d.estado.NoClick = false;
     Fixa(d.Item(i));
     d.Item(i).ItemResolvido = true;
@@ -133,7 +133,7 @@ void Verificacao::Termina()
     d.c.Label4.SetVisible(false);
     d.c.Image6.SetVisible(false);
     if (!VerificaRecords(SegundosDeJogo(d.valores, d.ambiente.Agora()))) {
-        d.ambiente.mensagem({QStringLiteral("Parabéns !!!")});
+        d.ambiente.mensagem({texto::Parabens()});
     }
 }
 

@@ -1,6 +1,7 @@
 #include "ui/machine/machine.h"
 
 #include "core/machine/day_clock.h"
+#include "core/machine/sound.h"
 #include "core/machine/steady_clock.h"
 #include "ui/machine/sound_player.h"
 #include "ui/toolkit/message_box.h"
@@ -23,9 +24,8 @@ std::unique_ptr<Acaso> AcasoDoSistema()
 QStringList Sons(const ValoresPrograma &valores)
 {
     QStringList arquivos;
-    for (const char16_t *nome : {u"click.wav", u"select.wav", u"acerto1.wav", u"acerto2.wav",
-                                 u"erro1.wav", u"erro2.wav"}) {
-        arquivos << Caminho(valores.PastaPrograma, QStringView(nome));
+    for (const QStringView nome : kArquivosDeSom) {
+        arquivos << Caminho(valores.PastaPrograma, nome);
     }
     return arquivos;
 }

@@ -1,5 +1,7 @@
 #include "ui/main_form/accessible_board.h"
 
+#include "core/machine/texts.h"
+
 #include <QEvent>
 
 namespace {
@@ -138,9 +140,7 @@ void TabuleiroAcessivel::DescreveComandos()
     for (size_t k = 0; k < comandos.size(); ++k) {
         DescreveComando(*d.c.Label3[k + 1], comandos[k], kOrdemMenu + static_cast<int>(k) + 1);
     }
-    DescreveComando(d.c.Label4,
-                    {QStringLiteral("Socorro"),
-                     QStringLiteral("Revela uma letra e acrescenta dois minutos ao seu tempo")},
+    DescreveComando(d.c.Label4, {QStringLiteral("Socorro"), texto::SocorroDescricao()},
                     kOrdemTitulo - 1);
     DescreveComando(d.c.Image8, {QStringLiteral("Sobre o Quadrelo"), {}}, kOrdemTitulo);
     DescreveComando(d.c.Image2, comandos.back(), kOrdemTitulo + 1);

@@ -2,6 +2,7 @@
 
 #include "core/builder/build_attempts.h"
 #include "core/machine/shared_routines.h"
+#include "core/machine/texts.h"
 
 #include <QScopedValueRollback>
 
@@ -96,9 +97,5 @@ void CicloJogo::SemJogo()
     d.c.Picespere.SetVisible(false);
     d.c.Image4.SetVisible(false);
     d.ambiente.mensagem(
-        {m_banco.banco.QtdPerguntas == 0
-             ? QStringLiteral(
-                   "O banco de perguntas \"Perguntas.tes\" não pôde ser lido ou está vazio.")
-             : QStringLiteral(
-                   "O banco de perguntas não tem palavras suficientes para montar um jogo.")});
+        {m_banco.banco.QtdPerguntas == 0 ? texto::BancoIlegivel() : texto::BancoPequeno()});
 }

@@ -1,15 +1,10 @@
 #include "ui/main_form/load_game.h"
 
+#include "core/machine/prices.h"
 #include "core/machine/shared_routines.h"
+#include "core/machine/texts.h"
 
 #include <QScopedValueRollback>
-
-namespace {
-
-/// Price of a load, in seconds.
-constexpr double kPrecoCarga = 120;
-
-} // namespace
 
 void CargaJogo::CarregaJogo(int n)
 {
@@ -19,8 +14,7 @@ void CargaJogo::CarregaJogo(int n)
     const auto lido = LeSlot(Caminho(d.valores.PastaDados, kArquivoJogos), n);
     const auto *salvo = std::get_if<JogoSalvo>(&lido);
     if (salvo == nullptr) {
-        d.ambiente.mensagem(
-            {QStringLiteral("O jogo salvo neste local está danificado e não pode ser aberto.")});
+        d.ambiente.mensagem({texto::SlotDanificado()});
         return;
     }
     const Achado achado = Abre(*salvo);
@@ -44,8 +38,8 @@ Achado CargaJogo::Abre(const JogoSalvo &salvo)
     // Where no item is open, nothing is selected.
     const int aberto = PrimeiroAberto(d.tabuleiro);
     const Achado achado = aberto != 0 ? m_salas.selecao.Lbt_Click(aberto) : Achado::Nada;
-    d.ambiente.mensagem({QStringLiteral("Serão acrescentados 2 minutos ao seu tempo")});
-    d.valores.HoraInicio = d.ambiente.Agora() - (salvo.tempo + kPrecoCarga);
+    d.ambiente.mensagem({texto::PrecoDaCarga()});
+    d.valores.HoraInicio = d.ambiente.Agora() - (salvo.tempo + 60 * kMinutosCarga);
     ComecaPartida();
     return achado;
 }

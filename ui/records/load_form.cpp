@@ -1,6 +1,7 @@
 #include "ui/records/load_form.h"
 
 #include "core/machine/sound.h"
+#include "core/machine/texts.h"
 #include "ui/forms/slot_forms.h"
 
 #include <QScopedValueRollback>
@@ -16,13 +17,13 @@ FrmCarregar::FrmCarregar(const ContextoDialogo &contexto, std::function<void(int
 
 void FrmCarregar::LbSave_Click(int Index)
 {
-    TocaSom(d.valores, d.ambiente, u"click.wav");
+    TocaSom(d.valores, d.ambiente, Som::Clique);
     if (Index >= forms::kLbCancelar) {
         m_lista.Unload();
         return;
     }
     if (m_lista.Livre(Index)) {
-        d.ambiente.mensagem({QStringLiteral("Não há jogo salvo neste local")});
+        d.ambiente.mensagem({texto::SlotVazio()});
         return;
     }
     m_lista.Unload();

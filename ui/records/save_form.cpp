@@ -1,6 +1,7 @@
 #include "ui/records/save_form.h"
 
 #include "core/machine/sound.h"
+#include "core/machine/texts.h"
 #include "ui/forms/slot_forms.h"
 #include "ui/records/save_name_form.h"
 
@@ -14,7 +15,7 @@ FrmSalvar::FrmSalvar(const ContextoDialogo &contexto, const Tabuleiro &tabuleiro
 
 void FrmSalvar::LbSave_Click(int Index)
 {
-    TocaSom(d.valores, d.ambiente, u"click.wav");
+    TocaSom(d.valores, d.ambiente, Som::Clique);
     if (Index < forms::kLbCancelar && PodeSobregravar(Index)) {
         PedeNome(Index);
     }
@@ -24,8 +25,8 @@ void FrmSalvar::LbSave_Click(int Index)
 bool FrmSalvar::PodeSobregravar(int n) const
 {
     return m_lista.Livre(n) ||
-           d.ambiente.mensagem({QStringLiteral("Deseja sobregravar %1?").arg(m_lista.Legenda(n)),
-                                Botoes::SimNao, Icone::Pergunta}) == Resposta::Sim;
+           d.ambiente.mensagem({texto::Sobregravar(m_lista.Legenda(n)), Botoes::SimNao,
+                                Icone::Pergunta}) == Resposta::Sim;
 }
 
 /// Shows the name's dialog on this one and waits for it.

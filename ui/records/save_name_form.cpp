@@ -1,4 +1,5 @@
 #include "ui/records/save_name_form.h"
+#include "core/machine/texts.h"
 
 #include "core/records/save_slot.h"
 #include "ui/forms/slot_forms.h"
@@ -54,7 +55,7 @@ void FrmSalvar2::Command1_Click()
     d.ambiente.deixaEventos();
     d.ambiente.deixaEventos();
     if (m_text1.Text().isEmpty()) {
-        m_text1.SetText(QStringLiteral("Sem nome ") + m_label3.Caption());
+        m_text1.SetText(texto::SemNome(m_label3.Caption().toInt()));
     }
     SalvarJogo(m_label3.Caption().toInt(), m_text1.Text());
     m_form.Unload();

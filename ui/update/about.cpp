@@ -2,6 +2,7 @@
 
 #include "assets/pictures.h"
 #include "core/machine/shared_routines.h"
+#include "core/machine/texts.h"
 #include "core/registry/temp_folder.h"
 #include "quadrelo_version.h"
 #include "ui/forms/about.h"
@@ -100,9 +101,8 @@ void FrmSobre::Label10_Click()
         m_ambiente.mensagem({r});
         return;
     }
-    const QString pergunta = QStringLiteral("Você está utilizando a versão %1\r\n\r\n"
-                                            "Deseja atualizar para a versão %2 agora?")
-                                 .arg(TextoCurto(kVersao), CampoTexto(r, kSeparador, 3));
+    const QString pergunta =
+        texto::PerguntaAtualizar(TextoCurto(kVersao), CampoTexto(r, kSeparador, 3));
     if (m_ambiente.mensagem({pergunta, Botoes::SimNao}) != Resposta::Sim) {
         return;
     }
@@ -130,11 +130,10 @@ QString FrmSobre::GetUpdate()
     const QString resposta =
         m_dl1.GetConteudo(m_lugares.site + QStringLiteral("/update.php?prog=") + titulo);
     if (!resposta.contains(kSeparador)) {
-        return QStringLiteral("Não foi possível conectar ao servidor");
+        return texto::SemConexao();
     }
     if (!MaiorVersion(TextoCompleto(kVersao), CampoTexto(resposta, kSeparador, 2))) {
-        return QStringLiteral("Você já está utilizando a versão mais recente do ") +
-               m_valores.Titulo;
+        return texto::VersaoEmDia(m_valores.Titulo);
     }
     // The reply itself begins with a separator, so its fields stand one place further on here. One
     // that begins otherwise never gives the field "Link", and the player sees it as it is.

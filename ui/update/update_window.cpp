@@ -1,4 +1,5 @@
 #include "ui/update/update_window.h"
+#include "core/machine/texts.h"
 
 #include "core/files/download_file.h"
 #include "ui/forms/update_window.h"
@@ -97,11 +98,10 @@ void BaixaAtualizacao(ValoresPrograma &valores, Ambiente &ambiente, const QStrin
     FrmBaixar janela(valores, ambiente, dona.Dpi());
     switch (janela.Baixa(valores.LinkAtualizacao, pasta, &dona)) {
     case FrmBaixar::Fim::Baixado:
-        ambiente.mensagem({QStringLiteral("A atualização foi gravada em:\r\n") +
-                           QDir::toNativeSeparators(janela.Arquivo())});
+        ambiente.mensagem({texto::AtualizacaoGravada(QDir::toNativeSeparators(janela.Arquivo()))});
         break;
     case FrmBaixar::Fim::Falhou:
-        ambiente.mensagem({QStringLiteral("Não foi possível baixar a atualização")});
+        ambiente.mensagem({texto::AtualizacaoFalhou()});
         break;
     case FrmBaixar::Fim::Cancelado:
         break;

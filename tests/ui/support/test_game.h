@@ -76,18 +76,11 @@ public:
     /// Text of the free cells of item `n`, for typing.
     [[nodiscard]] QString LetrasLivres(int n) const;
 
-    /// What is wrong with the board and the cursor, "" if nothing is: the invariants that hold
-    /// after every event of a game in play or at its end.
-    [[nodiscard]] QString FaltaNoEstado() const;
-
     QTemporaryDir pasta;
     MaquinaDeTeste maquina;
     ValoresPrograma valores;
 
 private:
-    [[nodiscard]] QString FaltaNaCelula(int i) const;
-    [[nodiscard]] QString FaltaNoCursor() const;
-
     RegistroDoPrograma m_registro;
     Ambiente m_ambiente;
 
