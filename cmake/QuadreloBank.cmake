@@ -1,4 +1,4 @@
-# quadrelo_compile_bank(TARGET SOURCE.tsv OUTPUT.tes): compiles a question bank as part of the build.
+# quadrelo_compile_bank(TARGET SOURCE.tsv OUTPUT.tes): compiles the project's own bank as part of the build.
 # A line that breaks a rule stops the build; the compiler names the file, the line and the reason.
 # A build for another system takes the compiler of a build for this one, from QUADRELO_HOST_TOOLS.
 function(quadrelo_compile_bank target source output)
@@ -8,7 +8,7 @@ function(quadrelo_compile_bank target source output)
     set(compilador ${QUADRELO_COMPILA_BANCO})
   endif()
   add_custom_command(OUTPUT ${output}
-    COMMAND ${compilador} ${source} ${output}
+    COMMAND ${compilador} --regras-da-casa ${source} ${output}
     DEPENDS ${compilador} ${source}
     COMMENT "Compiling the question bank" VERBATIM)
   add_custom_target(${target} ALL DEPENDS ${output})

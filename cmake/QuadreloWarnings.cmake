@@ -2,7 +2,9 @@
 add_library(quadrelo_options INTERFACE)
 target_include_directories(quadrelo_options INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR}/generated)
 target_compile_options(quadrelo_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Werror)
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast $<$<BOOL:${QUADRELO_WERROR}>:-Werror>
+  # Where the sources lay is nobody's business, and the same sources give the same bytes anywhere.
+  -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
 target_compile_definitions(quadrelo_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT QT_NO_FOREACH QT_NO_KEYWORDS)
 if(QUADRELO_ASSERTS)

@@ -2,10 +2,16 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 #include <vector>
 
-/// The question bank's source: one entry a line, `PALAVRA<TAB>Pista`, UTF-8, LF.
+/// What every source of a question bank comes to, the project's own and a private list: words with
+/// their clues. house_rules and own_list read them.
+
+/// The characters that a cell accepts.
+inline constexpr char16_t kAlfabeto[] = u"ABCDEFGHIJKLMNOPQRSTUVWXYZÇÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛÜ0123456789";
+
+/// Letters of the shortest word; the longest has kBytesPalavra.
+inline constexpr int kMenorPalavra = 3;
 
 struct EntradaFonte
 {
@@ -15,28 +21,8 @@ struct EntradaFonte
     QString dica;
 };
 
-struct FonteBanco
-{
-    std::vector<EntradaFonte> entradas;
-    /// What breaks a rule, each as "line: reason" in English. Empty where the source is sound.
-    QStringList faltas;
-};
-
-/// Reads a source and holds each entry against the rules that keep the game playable: alphabet and
-/// length of words, length and characters of clues, no word and no clue twice, no clue that holds
-/// its answer or the answer's stem, order of the words by their bytes, no more entries than the
-/// bank holds.
-FonteBanco LeFonte(const QByteArray &utf8);
-
-/// Capitals without accents: what words are compared by.
-QString SemAcentos(const QString &texto);
-
-/// The part of a word that its clue must not hold, without accents: the whole of a short word, else
-/// all but the last two letters, at least four.
-QString RadicalDe(const QString &palavra);
-
-/// The words of a clue, without accents.
-QStringList PalavrasDaDica(const QString &dica);
+/// The first character of `palavra` that no cell accepts, "" where all are accepted.
+QString LetraRecusada(const QString &palavra);
 
 /// The records of `entradas`, which must be sound: the bytes of a bank's file.
 QByteArray CompilaBanco(const std::vector<EntradaFonte> &entradas);

@@ -6,7 +6,7 @@
 // leaves the spelling out, for a machine without hunspell.
 
 #include "core/files/whole_file.h"
-#include "tools/bank_source.h"
+#include "tools/house_rules.h"
 
 #include <algorithm>
 #include <array>

@@ -76,7 +76,10 @@ std::optional<QByteArray> LeArquivo(const QString &arquivo)
 Troca TrocaArquivo(const QString &arquivo, const QByteArray &bytes,
                    const std::function<bool()> &aindaVale)
 {
-    if (bytes.size() > kMaximoDoArquivo || SoLeitura(arquivo)) {
+    // Where the system allows it, a device would make room for the new file.
+    const QFileInfo info(arquivo);
+    if ((info.exists() && !info.isFile()) || bytes.size() > kMaximoDoArquivo ||
+        SoLeitura(arquivo)) {
         return Troca::Falhou;
     }
     QSaveFile escritor(arquivo);

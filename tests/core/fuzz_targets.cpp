@@ -14,6 +14,7 @@
 #include "tests/core/slow_ini.h"
 #include "tests/core/test_board.h"
 #include "tests/core/test_files.h"
+#include "tools/own_list.h"
 
 namespace {
 
@@ -174,6 +175,21 @@ QString ProvaBanco(const QByteArray &dados, Dado &)
     return certo ? QString() : QStringLiteral("number of entries");
 }
 
+/// A list without a fault makes a bank that gives the same list back.
+QString ProvaLista(const QByteArray &dados, Dado &)
+{
+    const ListaPropria lista = LeLista(dados);
+    if (!lista.faltas.isEmpty()) {
+        return {};
+    }
+    const QByteArray banco = CompilaBanco(lista.entradas);
+    const ListaPropria volta = LeLista(ExtraiLista(banco));
+    const bool certo = banco.size() == qsizetype(lista.entradas.size()) * kBytesRegistro &&
+                       PareceBanco(banco) && volta.faltas.isEmpty() &&
+                       CompilaBanco(volta.entradas) == banco;
+    return certo ? QString() : QStringLiteral("the list does not come back");
+}
+
 QString ProvaReg4(const QString &arquivo)
 {
     RegistroPortatil armazem;
@@ -202,6 +218,13 @@ std::vector<Alvo> Alvos()
          {QByteArray("  CASA").leftJustified(kBytesRegistro, ' ').repeated(5)},
          {" ", QByteArray(1, '\0'), QByteArray(kBytesRegistro, 'A'), "\xC7\xC3O"},
          ProvaBanco},
+        {"list",
+         {"casa;Lar\r\n\"rim\";\"Filtra; \"\"limpa\"\"\"\r\n",
+          "\xEF\xBB\xBF"
+          "# lista\nCASA\tLar\nAVO,\"A\" ou \"o\"\n"},
+         {"\"", "\"\"", ";", ",", "\t", "\n", "\r", " ", "#", "\xC3\xA3", "\xCC\x83", "\xC2\xA0",
+          "dica", "ovo", "\xE2\x82\xAC", "\xC5\xBF", "\xE9"},
+         ProvaLista},
         AlvoDeArquivo({"reg4",
                        {"REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\a]\r\n@=\"x\"\r\n\"b\"=hex:00,FF\r\n"
                         "\"d\"=dword:0000000A\r\n\r\n[-HKEY_CURRENT_USER\\a]\r\n"},

@@ -2,6 +2,7 @@
 
 #include "support/sample_banks.h"
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -100,7 +101,10 @@ TEST_F(Monta, RefusesBadArgumentsAndBanksThatCannotServe)
           "--banco % --semente -1", "--banco % --semente 1.5",
           "--banco % --semente 18446744073709551616", "--banco % --semente 1 --jogos",
           "--banco % --semente 1 --jogos 0", "--banco % --semente 1 --jogos dois",
-          "--banco % --semente 1 --tudo", "--banco % --semente 1 sobra"}) {
+          "--banco % --semente 1 --tudo", "--banco % --semente 1 sobra",
+          "--banco % --semente 1 --formato pdf", "--banco % --semente 1 --formato",
+          "--banco % --semente 1 --solucao", "--banco % --semente 1 --titulo T",
+          "--banco % --semente 1 --sem-solucao --formato ipuz"}) {
         SCOPED_TRACE(linha);
         ExpectaRecusa(Roda(QString::fromUtf8(linha)), QString());
     }
@@ -142,6 +146,44 @@ TEST_F(Monta, PrintsEachItemOfEachPuzzleOfTheSeed)
     EXPECT_EQ(numeros.captured(2).toULongLong(), comMemoria.sorteios);
     EXPECT_LE(numeros.captured(3).toDouble(), numeros.captured(4).toDouble());
     EXPECT_LE(numeros.captured(4).toDouble(), numeros.captured(5).toDouble());
+}
+
+TEST_F(Monta, PrintsTheSamePuzzleInEachFormat)
+{
+    GravaBanco(BancoAcentuado());
+    const QStringList palavras = MontaAqui(2, false).texto.split(u'\n', Qt::SkipEmptyParts);
+    const QString linha = QStringLiteral("--banco % --semente 77 --jogos 2 --formato ");
+    const QString ipuz = Roda(linha + QStringLiteral("ipuz")).texto;
+    const QString texto = Roda(linha + QStringLiteral("texto --solucao --titulo Prova")).texto;
+    const QString html = Roda(linha + QStringLiteral("html")).texto;
+    const QString semSolucao = Roda(linha + QStringLiteral("html --sem-solucao")).texto;
+    EXPECT_EQ(ipuz.count(u'\n'), 2);
+    EXPECT_EQ(texto.count(QStringLiteral("Prova\n")), 2);
+    EXPECT_EQ(html.count(QStringLiteral("<section>")), 4);
+    EXPECT_EQ(semSolucao.count(QStringLiteral("<section>")), 2);
+    // Each across word stands in a row of the grid, behind its number.
+    for (const QString &campos : palavras) {
+        const QStringList item = campos.split(u'\t');
+        if (item[2] == u"H") {
+            QString casas;
+            for (const QChar letra : item[4]) {
+                casas += QString(letra) + QStringLiteral(" │");
+            }
+            EXPECT_TRUE(texto.contains(item[1] + u'│' + casas)) << campos.toStdString();
+        }
+    }
+}
+
+TEST_F(Monta, ABankDroppedOnItGetsASheetBesideIt)
+{
+    GravaBanco(BancoAcentuado());
+    EXPECT_EQ(Roda(QStringLiteral("%")).fim, 0);
+    const QDir pasta(m_pasta.path());
+    const QStringList folhas = pasta.entryList({QStringLiteral("Folha-*.html")});
+    ASSERT_EQ(folhas.size(), 1);
+    GravaBanco("casa;Lar\n" + QByteArray(100, 'x'));
+    ExpectaRecusa(Roda(QStringLiteral("%")), QStringLiteral("não é um banco"));
+    EXPECT_EQ(pasta.entryList({QStringLiteral("Folha-*")}), folhas);
 }
 
 #ifdef Q_OS_LINUX

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/sample_banks.h"
-#include "tools/bank_source.h"
+#include "tools/house_rules.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>

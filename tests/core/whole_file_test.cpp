@@ -10,6 +10,7 @@
 #ifdef Q_OS_LINUX
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,6 +51,15 @@ private:
 } // namespace
 
 #ifdef Q_OS_LINUX
+TEST(TrocaArquivo, PutsNoFileInThePlaceOfADevice)
+{
+    const PastaDeTeste pasta;
+    const QString cano = pasta.Caminho("cano");
+    ASSERT_EQ(mkfifo(QFile::encodeName(cano).constData(), 0600), 0);
+    EXPECT_EQ(TrocaArquivo(cano, "novo"), Troca::Falhou);
+    EXPECT_FALSE(QFileInfo(cano).isFile());
+}
+
 TEST(TrocaArquivo, KeepsTheOldFileOnAFullDisk)
 {
     const PastaDeTeste pasta;

@@ -47,14 +47,15 @@ start_sway() {
   export QT_QPA_PLATFORM=wayland WAYLAND_DISPLAY=wayland-1
 }
 
-# Copies the portable folder $1 to $WORK/Quadrelo, starts the game there and waits for a board.
+# start_game FOLDER [ARGUMENT...]: copies the portable folder to $WORK/Quadrelo, starts the game there and waits
+# for a board.
 start_game() {
   if [ ! -d "$WORK/Quadrelo" ]; then
     cp -r "$1" "$WORK/Quadrelo"
     rm -rf "$WORK/Quadrelo/Dados"
     mkdir "$WORK/Quadrelo/Dados"
   fi
-  "$WORK/Quadrelo/quadrelo" 2>"$WORK/stderr" &
+  "$WORK/Quadrelo/quadrelo" "${@:2}" 2>"$WORK/stderr" &
   GAME=$!
   PIDS+=("$GAME")
   wait_for 10 "a board" board_in_play

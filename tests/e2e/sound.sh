@@ -15,7 +15,8 @@ start_sound() {
   wait_for 5 "sound server" pactl info >/dev/null 2>&1
 }
 record() {
-  parec --device=@DEFAULT_MONITOR@ --rate=44100 --channels=1 --format=s16le >"$WORK/recording" 2>/dev/null &
+  parec --device=@DEFAULT_MONITOR@ --rate=44100 --channels=1 --format=s16le --latency-msec=50 \
+    >"$WORK/recording" 2>/dev/null &
   PIDS+=($!)
   sleep 1
 }

@@ -4,13 +4,15 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-void CentralizaForm(toolkit::Form &form)
+const QScreen *TelaDoJogador()
 {
     const QScreen *tela = QGuiApplication::screenAt(QCursor::pos());
-    if (tela == nullptr) {
-        tela = QGuiApplication::primaryScreen();
-    }
-    const QRect area = tela->geometry();
+    return tela != nullptr ? tela : QGuiApplication::primaryScreen();
+}
+
+void CentralizaForm(toolkit::Form &form)
+{
+    const QRect area = TelaDoJogador()->geometry();
     const float porPixel = toolkit::TwipsPorPixel(form.Dpi());
     const auto twips = [porPixel](int pixels) { return static_cast<float>(pixels) * porPixel; };
     const float top = twips(area.height()) / 2 - form.Height() / 2;

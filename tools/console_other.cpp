@@ -1,0 +1,7 @@
+#include "tools/console.h"
+
+Console::Console() = default;
+
+Console::~Console() = default;
+
+void Console::EsperaTecla() {}
