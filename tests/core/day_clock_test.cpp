@@ -1,4 +1,5 @@
 #include "core/machine/day_clock.h"
+#include "core/machine/program_state.h"
 #include "core/machine/steady_clock.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,10 @@ TEST(RelogioDoDia, CountsOnFromTheTimeOfDayAtStart)
     EXPECT_DOUBLE_EQ(relogio.Agora(), 86398.5);
     continuos += 3600.25;
     EXPECT_DOUBLE_EQ(relogio.Agora(), 89998.75); // midnight is no event
+    ValoresPrograma valores;
+    valores.HoraInicio = 86398.25;
+    EXPECT_EQ(SegundosDeJogo(valores, relogio.Agora()), 3600);
+    EXPECT_EQ(SegundosDeJogo(valores, 86398.0), 0) << "a start that lies a moment ahead";
 }
 
 TEST(SegundosContinuos, CountsSecondsAsAnotherSteadyClockDoes)

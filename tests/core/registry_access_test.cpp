@@ -119,8 +119,10 @@ TEST_F(RegistryAccess, ReadsWhatItWroteAndWhatOthersWrote)
     }
     r.WriteString(k, u"s"_s, QString(1025, u'x'));
     EXPECT_EQ(r.ReadString(k, u"s"_s, u"-"_s), u"-");
-    Grava("nul", kTipoTexto, QByteArray("abc\0xyz\0", 8));
-    EXPECT_EQ(r.ReadString(k, u"nul"_s), u"abc");
+    for (const QByteArray &ateONul : {"abc"_ba, ""_ba}) {
+        Grava("nul", kTipoTexto, ateONul + "\0xyz\0"_ba);
+        EXPECT_EQ(r.ReadString(k, u"nul"_s).toLatin1(), ateONul);
+    }
     r.WriteString(k, u"@"_s, u"padrão"_s);
     EXPECT_EQ(r.ReadString(k, {}) + r.ReadString(k, u"@"_s, u"-"_s), u"padrão-");
 

@@ -4,6 +4,24 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+TEST(Tabuleiro, CountsSolvedItemsAndFindsTheFirstOpenOne)
+{
+    Tabuleiro t;
+    for (int n = 1; n <= kItens; ++n) {
+        t.ItemPalavra[n].ItemResolvido = n != 3 && n != 26;
+    }
+    EXPECT_EQ(ContaResolvidos(t), 24);
+    EXPECT_EQ(PrimeiroAberto(t), 3);
+    EXPECT_EQ(PrimeiroAberto(t, 4), 26);
+    t.ItemPalavra[26].ItemResolvido = true;
+    EXPECT_EQ(PrimeiroAberto(t, 4), 0);
+    for (const auto &[itens, primeiro, segundo] :
+         {std::tuple{u""_s, 0, 0}, {u"3"_s, 3, 0}, {u"26,7"_s, 26, 7}}) {
+        EXPECT_EQ(LeItens(itens).primeiro, primeiro);
+        EXPECT_EQ(LeItens(itens).segundo, segundo);
+    }
+}
+
 TEST(Fala, SaysInWordsWhatTheWindowShows)
 {
     // Item 1 across the first row from cell 2 on, item 2 down through its third letter.
