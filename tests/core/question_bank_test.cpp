@@ -128,6 +128,8 @@ TEST(BankSource, RefusesEachBrokenRuleWithItsLineAndReason)
              {"DOIS\tDepois do \xD0\xB6 russo", "Windows-1252"},
              {"\xC3\x8DNDIO\tO dia do indio", "answer"},
              {"PADARIA\tVende o que o padario faz", "stem"},
+             {"DOIS\t\"Antes do terceiro\"", "quotation mark"},
+             {"MORA\tFica em casa", "names CASA, whose clue in line 1 names MORA"},
              {"CASA\tOutra pista da palavra", "word stands in line 1"},
              {"DOIS\tOnde se mora", "clue stands in line 1"},
              {"BOLA\tRola no campo", "out of order behind \"CASA\""},
