@@ -6,6 +6,7 @@
 // leaves the spelling out, for a machine without hunspell.
 
 #include "core/files/whole_file.h"
+#include "tools/bank_figures.h"
 #include "tools/house_rules.h"
 
 #include <algorithm>
@@ -22,6 +23,8 @@
 namespace {
 
 constexpr int kEntradas = 3000;
+/// Puzzles built for the share of those with a telling clue.
+constexpr int kJogosDeProva = 2000;
 
 /// Share of the words of 3, 4, ... letters, the last for 10 and more, in hundredths.
 constexpr std::array kPartes = {4, 12, 20, 22, 18, 12, 7, 5};
@@ -46,7 +49,7 @@ public:
         if (static_cast<int>(m_fonte.entradas.size()) != kEntradas) {
             Falta(QStringLiteral("%1 entries, not %2").arg(m_fonte.entradas.size()).arg(kEntradas));
         }
-        ConferePartes();
+        ConfereFiguras();
         ConfereDicas();
         ConfereFormas();
         ConfereLetras();
@@ -63,38 +66,51 @@ private:
         ++m_faltas;
     }
 
-    [[nodiscard]] double Centesimos(int quantas) const
+    [[nodiscard]] static double Centesimos(int quantas, int de)
     {
-        return 100.0 * quantas / static_cast<double>(std::max<size_t>(1, m_fonte.entradas.size()));
+        return 100.0 * quantas / std::max(1, de);
     }
 
-    void ConferePartes()
+    /// Prints a share with its aim and takes one beyond the bounds for a fault.
+    void ConfereParte(const QString &nome, double parte, const QString &meta, double menor,
+                      double maior)
     {
-        std::array<int, kPartes.size()> contagem{};
-        for (const auto &entrada : m_fonte.entradas) {
-            const auto faixa =
-                std::clamp<qsizetype>(entrada.palavra.size() - 3, 0, kPartes.size() - 1);
-            ++contagem[static_cast<size_t>(faixa)];
+        const QString linha =
+            QStringLiteral("%1: %2% (%3)").arg(nome).arg(parte, 0, 'f', 1).arg(meta);
+        std::printf("%s\n", qPrintable(linha));
+        if (parte < menor || parte > maior) {
+            Falta(QStringLiteral("off the aim: ") + linha);
         }
+    }
+
+    void ConfereFiguras()
+    {
+        const FigurasDoBanco f = ContaFiguras(m_fonte.entradas, kJogosDeProva);
         for (size_t k = 0; k < kPartes.size(); ++k) {
-            const double parte = Centesimos(contagem[k]);
-            std::printf("%zu letters: %.1f%% (aim %d%%)\n", k + 3, parte, kPartes[k]);
-            if (parte < kPartes[k] * 2 / 3.0 || parte > kPartes[k] * 4 / 3.0) {
-                Falta(QStringLiteral("words of %1 letters: %2%, not near %3%")
-                          .arg(k + 3)
-                          .arg(parte)
-                          .arg(kPartes[k]));
-            }
+            ConfereParte(QStringLiteral("words of %1 letters").arg(k + 3),
+                         Centesimos(f.porTamanho[k], f.entradas),
+                         QStringLiteral("aim %1%").arg(kPartes[k]), kPartes[k] * 2 / 3.0,
+                         kPartes[k] * 4 / 3.0);
         }
+        const auto parte = [&](const char16_t *nome, int quantas, const char16_t *meta,
+                               double menor, double maior) {
+            ConfereParte(QString::fromUtf16(nome), Centesimos(quantas, f.entradas),
+                         QString::fromUtf16(meta), menor, maior);
+        };
+        parte(u"clues of one word", f.dicasDeUmaPalavra, u"at most 25%", 0, 25);
+        parte(u"clues of three words or fewer", f.curtas, u"about 10%", 8, 15);
+        parte(u"clues with an elided noun", f.elididas, u"at most 3.3%", 0, 100.0 / 30);
+        parte(u"clues that are bare lists", f.listas, u"at most 3.3%", 0, 100.0 / 30);
+        ConfereParte(QStringLiteral("puzzles with a telling clue, of %1").arg(f.jogos),
+                     Centesimos(f.jogosQueContam, f.jogos), QStringLiteral("at most 8%"), 0, 8);
+        std::printf("average clue: %.1f characters\n", f.mediaDaDica);
     }
 
     void ConfereDicas()
     {
-        int deUmaPalavra = 0;
         QHash<QString, int> formulas;
         for (const auto &entrada : m_fonte.entradas) {
             const QStringList palavras = PalavrasDaDica(entrada.dica);
-            deUmaPalavra += palavras.size() == 1 ? 1 : 0;
             ++formulas[palavras.mid(0, 2).join(u' ')];
             const QString primeira = entrada.dica.left(1);
             if (primeira != primeira.toUpper()) {
@@ -103,10 +119,6 @@ private:
             if (entrada.dica.endsWith(u'.') && !entrada.dica.endsWith(QStringLiteral("..."))) {
                 Falta(QStringLiteral("%1: a full stop at the end").arg(entrada.linha));
             }
-        }
-        std::printf("clues of one word: %.1f%% (at most 25%%)\n", Centesimos(deUmaPalavra));
-        if (deUmaPalavra * 4 > kEntradas) {
-            Falta(QStringLiteral("too many clues of one word"));
         }
         for (auto formula = formulas.cbegin(); formula != formulas.cend(); ++formula) {
             if (formula.value() > kEntradas / 30) {

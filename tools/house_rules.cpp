@@ -33,6 +33,10 @@ QString FaltaDaDica(const QString &dica)
         return QStringLiteral(
             "the clue has a blank at an end, a double blank or a control character");
     }
+    if (dica.startsWith(u'"') && dica.endsWith(u'"')) {
+        return QStringLiteral("the clue begins and ends with a quotation mark, and would come back "
+                              "from a saved game without the two");
+    }
     return {};
 }
 
@@ -82,6 +86,29 @@ public:
         }
     }
 
+    /// Two entries each of whose clues names the other's answer: the first solved gives the second.
+    void ConferePares()
+    {
+        QHash<QString, const EntradaFonte *> porPalavra;
+        for (const EntradaFonte &entrada : fonte.entradas) {
+            porPalavra.insert(SemAcentos(entrada.palavra), &entrada);
+        }
+        for (const EntradaFonte &entrada : fonte.entradas) {
+            for (const QString &termo : PalavrasDaDica(entrada.dica)) {
+                const EntradaFonte *outra = porPalavra.value(termo);
+                if (termo.size() >= kMenorCitada && outra != nullptr &&
+                    outra->linha < entrada.linha &&
+                    PalavrasDaDica(outra->dica).contains(SemAcentos(entrada.palavra))) {
+                    Anota(entrada.linha,
+                          QStringLiteral("the clue names %1, whose clue in line %2 names %3")
+                              .arg(outra->palavra)
+                              .arg(outra->linha)
+                              .arg(entrada.palavra));
+                }
+            }
+        }
+    }
+
 private:
     void Repetida(QHash<QString, int> &vistas, const QString &texto, int linha, const QString &oQue)
     {
@@ -114,6 +141,7 @@ FonteBanco LeFonte(const QByteArray &utf8)
     for (qsizetype k = 0; k < linhas.size(); ++k) {
         leitor.LeLinha(static_cast<int>(k) + 1, linhas[k]);
     }
+    leitor.ConferePares();
     if (leitor.fonte.entradas.size() > size_t{kMaxPerguntas}) {
         leitor.Anota(kMaxPerguntas + 1, QStringLiteral("more than %1 entries").arg(kMaxPerguntas));
     }

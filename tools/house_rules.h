@@ -15,7 +15,8 @@ struct FonteBanco
 
 /// Reads a source and holds each entry against the rules: alphabet and length of words, length and
 /// characters of clues, no word and no clue twice, no clue that holds its answer or the answer's
-/// stem, order of the words by their bytes, no more entries than the bank holds.
+/// stem or that begins and ends with a quotation mark, no two clues that name each other's answers,
+/// order of the words by their bytes, no more entries than the bank holds.
 FonteBanco LeFonte(const QByteArray &utf8);
 
 /// Capitals without accents: what words are compared by.
@@ -27,3 +28,6 @@ QString RadicalDe(const QString &palavra);
 
 /// The words of a clue, without accents.
 QStringList PalavrasDaDica(const QString &dica);
+
+/// Letters of the shortest answer that another clue gives away by naming it.
+inline constexpr int kMenorCitada = 4;

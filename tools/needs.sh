@@ -3,7 +3,9 @@
 BUILD_NEEDS="g++ cmake ninja-build qt6-base-dev qt6-base-private-dev qt6-base-dev-tools qt6-multimedia-dev qt6-l10n-tools
   qt6-translations-l10n libgl-dev libgtest-dev libbenchmark-dev fonts-liberation fonts-dejavu-core"
 TEST_NEEDS="xvfb openbox sway qt6-wayland xdotool imagemagick x11-utils xauth hunspell hunspell-pt-br openssl
-  at-spi2-core dbus desktop-file-utils appstream pulseaudio pulseaudio-utils"
+  at-spi2-core dbus desktop-file-utils appstream pulseaudio pulseaudio-utils patchelf"
+# For the folder that brings Qt along.
+FOLDER_NEEDS="qt6-wayland patchelf binutils xz-utils"
 
 fail() {
   echo "$(basename "$0"): $*" >&2

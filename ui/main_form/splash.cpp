@@ -4,6 +4,7 @@
 #include "quadrelo_version.h"
 #include "ui/forms/splash.h"
 #include "ui/main_form/form1.h"
+#include "ui/toolkit/font.h"
 #include "ui/window/center_form.h"
 #include "ui/window/dpi_adjuster.h"
 
@@ -25,6 +26,7 @@ FrmSplash::FrmSplash(ValoresPrograma &valores, Ambiente &ambiente,
       m_principal(principal),
       m_form(new toolkit::Form(forms::kFrmSplash.moldura, dpi))
 {
+    toolkit::TrazFontes(Caminho(m_valores.PastaPrograma, u"fonts"));
     forms::Define(*m_form, forms::kFrmSplash);
     Form_Load();
 }

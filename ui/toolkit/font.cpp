@@ -1,6 +1,11 @@
 #include "ui/toolkit/font.h"
 
+#include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
 #include <QStringList>
+
+#include <algorithm>
 
 namespace toolkit {
 
@@ -28,7 +33,38 @@ QStringList Familias(Familia nome)
     return {liberation};
 }
 
+bool FaltaAlguma()
+{
+    constexpr Familia todas[] = {Familia::MSSansSerif, Familia::Arial, Familia::ArialBlack,
+                                 Familia::Verdana, Familia::Tahoma};
+    return std::ranges::any_of(todas, [](Familia nome) {
+        return std::ranges::none_of(Familias(nome), [](const QString &familia) {
+            return QFontDatabase::hasFamily(familia);
+        });
+    });
+}
+
 } // namespace
+
+void TrazFontes(const QString &pasta)
+{
+    const QDir fontes(pasta);
+    const QStringList arquivos = fontes.entryList({QStringLiteral("*.ttf")}, QDir::Files);
+    if (arquivos.isEmpty() || !FaltaAlguma()) {
+        return;
+    }
+    QStringList trazidas;
+    for (const QString &arquivo : arquivos) {
+        const int fonte = QFontDatabase::addApplicationFont(fontes.filePath(arquivo));
+        trazidas += QFontDatabase::applicationFontFamilies(fonte);
+    }
+    if (!trazidas.isEmpty()) {
+        // Message boxes speak in the application's font.
+        QFont propria = QApplication::font();
+        propria.setFamilies({trazidas.first()});
+        QApplication::setFont(propria);
+    }
+}
 
 QFont ParaQt(const Font &fonte, int dpi)
 {

@@ -20,4 +20,9 @@ struct Font
 /// breaks the layout.
 QFont ParaQt(const Font &fonte, int dpi);
 
+/// Where the system has no family at all for one of the type faces, takes the fonts that lie in
+/// `pasta`, if any do, and makes the first of them the application's font. Called once, before the
+/// first form is made.
+void TrazFontes(const QString &pasta);
+
 } // namespace toolkit
