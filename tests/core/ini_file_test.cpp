@@ -76,5 +76,10 @@ TEST(MudaIni, CommitsItsWritesTogetherAndStartsOverWhereTheFileChangedMeanwhile)
     }));
     EXPECT_EQ(pasta.Conteudo(arquivo), "[t]\r\nz=9\r\n[S]\r\nA=2\r\nb=7!\r\n");
     EXPECT_EQ(vezes, 2);
+    // A writer that never rests: in the end the change is given up.
+    EXPECT_FALSE(MudaIni(arquivo, [&](LoteIni &lote) {
+        lote.Escreve(u"s"_s, u"b"_s, u"1"_s);
+        if (++vezes < 100) pasta.Arquivo("x.ini", QByteArray::number(vezes));
+    }));
     EXPECT_EQ(pasta.Lista(), QStringList{u"x.ini"_s});
 }

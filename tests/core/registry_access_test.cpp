@@ -14,12 +14,6 @@ struct RegistroRestrito : RegistroPortatil
 {
     ChaveRegistro soLeitura = 0;
 
-    CodigoRegistro RegCreateKeyA(ChaveRegistro base, const QByteArray &sub,
-                                 ChaveRegistro &chave) override
-    {
-        return base == soLeitura ? CodigoRegistro::AcessoNegado
-                                 : RegistroPortatil::RegCreateKeyA(base, sub, chave);
-    }
     CodigoRegistro RegOpenKeyExA(ChaveRegistro base, const QByteArray &sub, std::uint32_t acesso,
                                  ChaveRegistro &chave) override
     {
