@@ -4,6 +4,7 @@
 #   folder.sh SOURCES BUILD-DIRECTORY
 . "$1/tests/e2e/lib.sh"
 set -eu
+trap 'set +e; cleanup' EXIT
 folder=$WORK/"Jogos e mais"/Quadrelo
 mkdir "$WORK/Jogos e mais"
 "$1/tools/make-linux-folder" --built "$2" --folder "$WORK/Jogos e mais" || die "no folder"
