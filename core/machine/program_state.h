@@ -48,6 +48,11 @@ struct EstadoForm1
     bool TudoResolvido = false;
     /// A board is being built or loaded. Neither a second build nor a second load starts meanwhile.
     bool Montando = false;
+    /// The waiting panel is up: no command and no item button acts.
+    bool Aguardando = false;
+    /// The first menu entry gives the game up. Not to be told from the number of solved items: a
+    /// restart leaves it as it stands.
+    bool PodeDesistir = false;
 };
 
 /// File names, under PastaPrograma and PastaDados.

@@ -55,7 +55,8 @@ QString Parabens()
 
 QString BancoIlegivel()
 {
-    return QStringLiteral("O banco de perguntas \"Perguntas.tes\" não pôde ser lido ou está vazio.");
+    return QStringLiteral(
+        "O banco de perguntas \"Perguntas.tes\" não pôde ser lido ou está vazio.");
 }
 
 QString BancoPequeno()

@@ -58,7 +58,7 @@ TEST(Interrupcoes, AnyBankCanBePlayedToGivingUp)
         for (int n = 1; n <= kItens; ++n) {
             jogo.Resolve(n);
         }
-        jogo.c().Image6.SetVisible(true);
+        jogo.d().MostraDesistir(true);
         JogoDeTeste::Clica(*jogo.c().Label3[0]);
         EXPECT_TRUE(jogo.valores.Desistiu) << static_cast<int>(estranha);
         jogo.c().Text1(jogo.d().Item(1).Ponto).SetText(QStringLiteral("x"));

@@ -45,10 +45,10 @@ void Comandos::Label3_Click(int Index)
 void Comandos::PrimeiraEntrada()
 {
     // While a board is built or loaded no command acts, also when "Desistir" is still showing.
-    if (d.c.Picespere.Visible()) {
+    if (d.estado.Aguardando) {
         return;
     }
-    if (d.c.Image6.Visible()) {
+    if (d.estado.PodeDesistir) {
         Desiste();
     } else {
         NovoJogo();
@@ -58,7 +58,7 @@ void Comandos::PrimeiraEntrada()
 void Comandos::Desiste()
 {
     d.valores.Desistiu = true;
-    d.c.Image6.SetVisible(false);
+    d.MostraDesistir(false);
     for (int i = 1; i <= kCelulas; ++i) {
         if (i <= kItens) {
             d.Item(i).ItemResolvido = true;
@@ -84,7 +84,7 @@ void Comandos::Reinicia()
         d.ambiente.mensagem({texto::JogoResolvido()});
         return;
     }
-    if (d.tabuleiro.QtdItens < kItens) {
+    if (!d.TemJogo()) {
         d.ambiente.mensagem({texto::SemJogo()});
         return;
     }
@@ -107,7 +107,7 @@ void Comandos::Salva()
 {
     if (d.estado.TudoResolvido) {
         d.ambiente.mensagem({texto::NadaASalvar()});
-    } else if (d.tabuleiro.QtdItens < kItens) {
+    } else if (!d.TemJogo()) {
         d.ambiente.mensagem({texto::SemJogo()});
     } else {
         AbreSalvar();

@@ -16,6 +16,20 @@ struct ContextoJogo
 
     [[nodiscard]] CelulaQuadrado &Quadrado(int i) const { return tabuleiro.Quadrado[i]; }
     [[nodiscard]] RegistroItem &Item(int n) const { return tabuleiro.ItemPalavra[n]; }
+    /// Whether a game stands on the board, in play or at its end.
+    [[nodiscard]] bool TemJogo() const { return tabuleiro.QtdItens == kItens; }
+    /// Puts the waiting panel up or away.
+    void MostraEspera(bool aguardando) const
+    {
+        estado.Aguardando = aguardando;
+        c.Picespere.SetVisible(aguardando);
+    }
+    /// Gives the first menu entry its meaning: "Desistir" or "Novo Jogo".
+    void MostraDesistir(bool pode) const
+    {
+        estado.PodeDesistir = pode;
+        c.Image6.SetVisible(pode);
+    }
     /// Whether cell `i` belongs to a word; False for a number that is no cell.
     [[nodiscard]] bool Ocupada(int i) const
     {

@@ -48,7 +48,7 @@ Achado Selecao::Lbt_Click(int Index)
 
 Achado Selecao::CliqueNoBotao(int Index)
 {
-    return d.c.Picespere.Visible() ? Achado::Nada : Lbt_Click(Index);
+    return d.estado.Aguardando ? Achado::Nada : Lbt_Click(Index);
 }
 
 void Selecao::Desmarca(int item)

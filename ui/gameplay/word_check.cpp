@@ -113,7 +113,7 @@ void Verificacao::Fixa(const RegistroItem &item)
 
 void Verificacao::MostraDesistir()
 {
-    d.c.Image6.SetVisible(ContaResolvidos(d.tabuleiro) >= kItensParaDesistir);
+    d.MostraDesistir(ContaResolvidos(d.tabuleiro) >= kItensParaDesistir);
 }
 
 /// The item to go on with behind the solved item `i`: the next one if it is open, else the lowest
@@ -131,7 +131,7 @@ void Verificacao::Termina()
     d.c.Timer1.SetLigado(false);
     d.estado.TudoResolvido = true;
     d.c.Label4.SetVisible(false);
-    d.c.Image6.SetVisible(false);
+    d.MostraDesistir(false);
     if (!VerificaRecords(SegundosDeJogo(d.valores, d.ambiente.Agora()))) {
         d.ambiente.mensagem({texto::Parabens()});
     }

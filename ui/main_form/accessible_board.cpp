@@ -60,7 +60,7 @@ void TabuleiroAcessivel::DescreveCelulas()
     d.c.Pic_q1.SetAcessivel({.papel = Papel::Grupo,
                              .nome = Fixo(QStringLiteral("Tabuleiro")),
                              .descricao = [this] { return FalaResolvidos(Resolvidos()); },
-                             .presente = [this] { return !d.c.Picespere.Visible(); },
+                             .presente = [this] { return !d.estado.Aguardando; },
                              .ordem = kOrdemTabuleiro});
     for (int i = 1; i <= kCelulas; ++i) {
         d.c.Text1(i).SetAcessivel(
@@ -131,7 +131,7 @@ void TabuleiroAcessivel::DescreveComandos()
     const Comando desistir{QStringLiteral("Desistir"),
                            QStringLiteral("Termina o jogo e mostra a solução")};
     const auto primeiro = [this, novoJogo, desistir] {
-        return d.c.Image6.Visible() ? desistir : novoJogo;
+        return d.estado.PodeDesistir ? desistir : novoJogo;
     };
     d.c.Label3[0]->SetAcessivel({.papel = Papel::Botao,
                                  .nome = [primeiro] { return primeiro().nome; },
@@ -176,7 +176,7 @@ void TabuleiroAcessivel::DescreveResto()
 /// holds for a moment, nothing is to be said.
 QString TabuleiroAcessivel::NomeSemCursor() const
 {
-    return d.c.Picespere.Visible()  ? QStringLiteral("Por favor aguarde")
+    return d.estado.Aguardando      ? QStringLiteral("Por favor aguarde")
            : d.estado.TudoResolvido ? QStringLiteral("Jogo terminado")
                                     : QString();
 }

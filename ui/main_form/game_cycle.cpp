@@ -36,7 +36,7 @@ void CicloJogo::Prepara()
     d.ambiente.deixaEventos();
     m_vista.MostraProgresso(0);
     d.c.Label4.SetVisible(false);
-    d.c.Picespere.SetVisible(true);
+    d.MostraEspera(true);
     d.c.Pic_q2.SetLeft(0);
     d.c.Pic_q2.SetTop(0);
     d.ambiente.deixaEventos();
@@ -77,11 +77,11 @@ void CicloJogo::ComecaPartida()
     d.estado.NoClick = true;
     d.valores.HoraInicio = static_cast<double>(static_cast<float>(d.ambiente.Agora()));
     d.c.Timer1.SetLigado(true);
-    d.c.Picespere.SetVisible(false);
+    d.MostraEspera(false);
     d.c.Label4.SetVisible(true);
     d.ambiente.deixaEventos();
     d.c.Image4.SetVisible(false);
-    d.c.Image6.SetVisible(false);
+    d.MostraDesistir(false);
 }
 
 /// The state "no game", with the reason. Saved games, the ranking, About and leaving still work.
@@ -93,8 +93,8 @@ void CicloJogo::SemJogo()
     d.estado.Focus = 0;
     d.estado.TudoResolvido = false;
     d.c.Image1.SetVisible(false);
-    d.c.Image6.SetVisible(false);
-    d.c.Picespere.SetVisible(false);
+    d.MostraDesistir(false);
+    d.MostraEspera(false);
     d.c.Image4.SetVisible(false);
     d.ambiente.mensagem(
         {m_banco.banco.QtdPerguntas == 0 ? texto::BancoIlegivel() : texto::BancoPequeno()});

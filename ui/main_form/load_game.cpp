@@ -51,7 +51,7 @@ void CargaJogo::MostraEspera()
     d.c.Timer1.SetLigado(false);
     d.c.Label2.SetCaption(FormataTempo(0));
     d.c.Label4.SetVisible(false);
-    d.c.Picespere.SetVisible(true);
+    d.MostraEspera(true);
     m_salas.vista.MostraProgresso(0);
     // With the panel up nothing can give up the game that is about to go.
     d.valores.Desistiu = false;
@@ -84,7 +84,7 @@ void CargaJogo::ComecaPartida()
     d.c.Label4.SetVisible(true);
     m_salas.verificacao.MostraDesistir();
     d.c.Timer1.SetLigado(true);
-    d.c.Picespere.SetVisible(false);
+    d.MostraEspera(false);
     d.ambiente.deixaEventos();
     d.c.Image4.SetVisible(false);
 }

@@ -13,7 +13,6 @@ public:
 
     [[nodiscard]] const Picture &GetPicture() const { return m_picture; }
     void SetPicture(const Picture &picture);
-    [[nodiscard]] bool Stretch() const { return m_stretch; }
     /// On: the picture follows the control's size. Off: the control takes the picture's.
     void SetStretch(bool stretch);
     /// 0: no border; 1: a thin line round the control.

@@ -22,9 +22,6 @@ enum class EstadoDL : std::int16_t {
 inline constexpr QStringView kNomeDaLeitura = u"Id";
 inline constexpr int kTempoLimiteS = 8;
 
-/// Side of the downloader's place on a form, in twips, whatever the size that it is given.
-inline constexpr float kLadoDL = 495;
-
 /// Fetches a web address while the windows go on living, and tells a stall from a slow server.
 ///
 /// The calls return when the read has ended; meanwhile pending events run, so the caller must keep
