@@ -7,83 +7,39 @@
 #include <QInputMethodEvent>
 #include <QMenu>
 #include <qpa/qwindowsysteminterface.h>
-#include <QTest>
 
-namespace {
-
-/// The first item that is long enough to type into without ending it.
-int ItemLongo(const JogoDeTeste &jogo)
-{
-    int n = 1;
-    while (jogo.d().Item(n).Palavra.size() < 5) {
-        ++n;
-    }
-    return n;
-}
-
-/// A game with a long item selected; `primeira` is its first cell.
-struct ComItemLongo
-{
-    ComItemLongo()
-    {
-        jogo.Comeca();
-        item = ItemLongo(jogo);
-        jogo.Seleciona(item);
-        primeira = jogo.d().Item(item).Ponto;
-        passo = PassoDe(jogo.d().Item(item).Sentido);
-    }
-
-    [[nodiscard]] QString Texto(int k) const { return jogo.c().Text1(primeira + k * passo).Text(); }
-
-    JogoDeTeste jogo;
-    int item;
-    int primeira;
-    int passo;
-};
-
-void Compoe(QWidget *alvo, const QString &previa, const QString &texto)
-{
-    QInputMethodEvent evento(previa, {});
-    evento.setCommitString(texto);
-    QApplication::sendEvent(alvo, &evento);
-    QCoreApplication::processEvents();
-}
-
-/// Entries of the menu that a right click on a cell brings up, "" if none comes.
-QString Menu(JogoDeTeste &jogo, const QString &naPrancheta)
-{
-    QApplication::clipboard()->setText(naPrancheta);
-    QContextMenuEvent evento(QContextMenuEvent::Mouse, {}, {});
-    QApplication::sendEvent(jogo.form->Janela().focusWidget(), &evento);
-    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    QStringList entradas;
-    for (const QAction *entrada : menu != nullptr ? menu->actions() : QList<QAction *>()) {
-        if (entrada->isVisible() && !entrada->isSeparator()) {
-            entradas << entrada->text().section(u'\t', 0, 0).remove(u'&');
-        }
-    }
-    delete menu;
-    return entradas.join(u'|');
-}
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 TEST(EntradaLetras, KeepsTheOrderInWhichPlainAndComposedLettersWereTyped)
 {
-    ComItemLongo t;
-    t.jogo.form->Janela().activateWindow();
-    QCoreApplication::processEvents();
+    JogoDeTeste jogo;
+    jogo.Comeca();
+    const RegistroItem &item = jogo.d().Item(1);
     // On a busy machine the plain letter still waits while the input method composes.
     QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
-        t.jogo.form->Janela().windowHandle(), QEvent::KeyPress, Qt::Key_M, Qt::NoModifier,
-        QStringLiteral("m"));
-    Compoe(t.jogo.form->Janela().focusWidget(), QString(), QStringLiteral("ü"));
-    EXPECT_EQ(t.Texto(0) + t.Texto(1), QStringLiteral("MÜ"));
+        jogo.form->Janela().windowHandle(), QEvent::KeyPress, Qt::Key_M, Qt::NoModifier, u"m"_s);
+    QInputMethodEvent evento;
+    evento.setCommitString(u"ü"_s);
+    QApplication::sendEvent(jogo.form->Janela().focusWidget(), &evento);
+    QCoreApplication::processEvents();
+    ASSERT_GT(item.Palavra.size(), 2) << "two letters would end the item";
+    EXPECT_EQ(jogo.c().Text1(CelulaDaLetra(item, 0)).Text(), u"M"_s);
+    EXPECT_EQ(jogo.c().Text1(CelulaDaLetra(item, 1)).Text(), u"Ü"_s);
 }
 
 TEST(EntradaLetras, OffersAMenuOnlyWithWhatCanAct)
 {
-    ComItemLongo t;
-    EXPECT_EQ(Menu(t.jogo, {}), QString());
-    EXPECT_EQ(Menu(t.jogo, QStringLiteral("a")), QStringLiteral("Paste"));
+    JogoDeTeste jogo;
+    jogo.Comeca();
+    for (const QString &naPrancheta : {QString(), u"a"_s}) {
+        QApplication::clipboard()->setText(naPrancheta);
+        QContextMenuEvent evento(QContextMenuEvent::Mouse, {}, {});
+        QApplication::sendEvent(jogo.form->Janela().focusWidget(), &evento);
+        const std::unique_ptr<QMenu> menu(qobject_cast<QMenu *>(QApplication::activePopupWidget()));
+        QStringList entradas;
+        for (const QAction *entrada : menu ? menu->actions() : QList<QAction *>())
+            if (entrada->isVisible() && !entrada->isSeparator())
+                entradas << entrada->text().section(u'\t', 0, 0).remove(u'&');
+        EXPECT_EQ(entradas, naPrancheta.isEmpty() ? QStringList() : QStringList{u"Paste"_s});
+    }
 }

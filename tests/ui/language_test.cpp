@@ -1,8 +1,7 @@
 #include "ui/machine/language.h"
 
-#include <QCoreApplication>
+#include <gtest/gtest.h>
 #include <QDir>
-#include <QFile>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QLocale>
@@ -10,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QTranslator>
 
-#include <gtest/gtest.h>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,55 +19,34 @@ QStringList TextosDoMenu()
     QLineEdit campo;
     const std::unique_ptr<QMenu> menu(campo.createStandardContextMenu());
     QStringList textos;
-    for (const QAction *acao : menu->actions()) {
-        const QString texto = acao->text().section(u'\t', 0, 0).remove(u'&');
-        if (!texto.isEmpty()) {
-            textos.append(texto);
-        }
-    }
+    for (const QAction *acao : menu->actions())
+        textos << acao->text().section(u'\t', 0, 0).remove(u'&').toLower();
     return textos;
 }
 
-TEST(Language, TheContextMenuIsPortuguese)
+} // namespace
+
+TEST(Language, TheContextMenuIsPortugueseFromTheProgramsOwnFolderFirst)
 {
     const QTemporaryDir pasta;
+    const QString nome = u"qtbase_pt_BR.qm"_s, copia = pasta.filePath(u"translations/"_s + nome);
+    const QDir doQt(QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    ASSERT_TRUE(QDir(pasta.path()).mkdir(u"translations"_s));
+    ASSERT_TRUE(QFile::copy(doQt.filePath(nome), copia));
     const QStringList antes = TextosDoMenu();
     const QString separador = QLocale::system().decimalPoint();
-    {
+    for (const bool inteira : {true, false}) {
+        // A damaged copy is passed over.
+        QFile arquivo(copia);
+        ASSERT_TRUE(inteira || (arquivo.remove() && arquivo.open(QIODevice::WriteOnly) &&
+                                arquivo.write("no texts") > 0));
+        arquivo.close();
         QTranslator tradutor;
         ASSERT_TRUE(PoeEmPortugues(tradutor, pasta.path()));
-        const QStringList textos = TextosDoMenu();
-        for (const auto &texto : {QStringLiteral("Desfazer"), QStringLiteral("Copiar"),
-                                  QStringLiteral("Colar"), QStringLiteral("Selecionar tudo")}) {
-            EXPECT_TRUE(textos.contains(texto, Qt::CaseInsensitive))
-                << qPrintable(textos.join(u'|'));
-        }
+        EXPECT_EQ(QDir::cleanPath(tradutor.filePath()), inteira ? copia : doQt.filePath(nome));
+        for (const auto &texto : {u"desfazer"_s, u"copiar"_s, u"colar"_s, u"selecionar tudo"_s})
+            EXPECT_TRUE(TextosDoMenu().contains(texto)) << qPrintable(texto);
         EXPECT_EQ(QLocale::system().decimalPoint(), separador);
     }
     EXPECT_EQ(TextosDoMenu(), antes);
 }
-
-TEST(Language, TheProgramsOwnFolderComesFirst)
-{
-    const QTemporaryDir pasta;
-    ASSERT_TRUE(QDir(pasta.path()).mkdir(QStringLiteral("translations")));
-    const QDir doQt(QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    const QString copia = pasta.filePath(QStringLiteral("translations/qtbase_pt_BR.qm"));
-    ASSERT_TRUE(QFile::copy(doQt.filePath(QStringLiteral("qtbase_pt_BR.qm")), copia));
-
-    QTranslator tradutor;
-    ASSERT_TRUE(PoeEmPortugues(tradutor, pasta.path()));
-    EXPECT_EQ(QDir::cleanPath(tradutor.filePath()), QDir::cleanPath(copia));
-
-    // A damaged copy is passed over.
-    ASSERT_TRUE(QFile::remove(copia));
-    QFile danificada(copia);
-    ASSERT_TRUE(danificada.open(QIODevice::WriteOnly));
-    danificada.write("no texts");
-    danificada.close();
-    QTranslator outro;
-    ASSERT_TRUE(PoeEmPortugues(outro, pasta.path()));
-    EXPECT_EQ(QDir(QFileInfo(outro.filePath()).path()), doQt);
-}
-
-} // namespace

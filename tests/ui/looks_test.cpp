@@ -31,12 +31,10 @@ std::string Trechos(const QImage &imagem, int y)
     std::string trechos;
     for (int x = 0, inicio = 0; x < imagem.width(); inicio = x) {
         const QRgb cor = imagem.pixel(x, y);
-        while (x < imagem.width() && imagem.pixel(x, y) == cor) {
+        while (x < imagem.width() && imagem.pixel(x, y) == cor)
             ++x;
-        }
-        trechos += cor == qRgb(0, 0, 0)         ? std::to_string(x - inicio)
-                   : cor == qRgb(255, 255, 255) ? "b"
-                                                : ".";
+        const bool preto = cor == qRgb(0, 0, 0);
+        trechos += preto ? std::to_string(x - inicio) : cor == qRgb(255, 255, 255) ? "b" : ".";
     }
     return trechos;
 }
@@ -60,15 +58,14 @@ TEST(Looks, NothingShowsOutsideAFrameAtAnyScale)
             QImage imagem((QSizeF(form.size()) * escala).toSize(), QImage::Format_RGB32);
             imagem.setDevicePixelRatio(escala);
             form.render(&imagem);
-            const std::string linha = std::to_string(static_cast<int>(escala));
-            const auto esperado =
-                std::string(".").append(linha).append("b").append(linha).append("b").append(linha) +
-                ".";
             const auto meio = static_cast<int>((canto + 9) * escala);
-            EXPECT_EQ(Trechos(imagem, meio), esperado) << escala << " across at " << canto;
-            EXPECT_EQ(Trechos(imagem.transformed(QTransform().rotate(90).scale(1, -1)), meio),
-                      esperado)
-                << escala << " down at " << canto;
+            for (const QImage &virada :
+                 {imagem, imagem.transformed(QTransform().rotate(90).scale(1, -1))}) {
+                std::string linha = ".1b1b1.";
+                std::replace(linha.begin(), linha.end(), '1',
+                             std::to_string(static_cast<int>(escala))[0]);
+                EXPECT_EQ(Trechos(virada, meio), linha) << escala << " at " << canto;
+            }
         }
     }
 }
@@ -108,9 +105,8 @@ TEST(Looks, NamesOfSavedGamesStandInTheirRows)
         const QImage &figura = form->GetPicture().Pixels();
         const auto &nome = forms::Acha<Label>(*form, u"LbSave", 10);
         int linha = nome.Widget()->geometry().center().y();
-        while (figura.pixel(20, linha) == figura.pixel(20, linha - 1)) {
+        while (figura.pixel(20, linha) == figura.pixel(20, linha - 1))
             --linha;
-        }
         const QFontMetrics letra(ParaQt(nome.GetFont(), form->Dpi()));
         const double meio = nome.Widget()->y() + letra.ascent() - letra.capHeight() / 2.0;
         EXPECT_NEAR(meio, linha + (kPasso - 1) / 2.0, 2) << form->objectName().toStdString();
@@ -127,13 +123,12 @@ TEST(Looks, MessageHasTheGamesIconOrNoRoomForOne)
             auto *caixa = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             ASSERT_NE(caixa, nullptr);
             vista = true;
-            if (icone == Icone::Pergunta) {
-                EXPECT_EQ(caixa->iconPixmap().toImage(), sinal.NoTamanhoDe(1).toImage());
-            } else {
-                const auto *texto = caixa->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
-                EXPECT_EQ(texto->x(), caixa->layout()->contentsMargins().left());
-                EXPECT_EQ(texto->indent() + texto->contentsMargins().left(), 0);
-            }
+            const bool com = icone == Icone::Pergunta;
+            EXPECT_EQ(caixa->iconPixmap().toImage(),
+                      com ? sinal.NoTamanhoDe(1).toImage() : QImage());
+            const auto *texto = caixa->findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+            EXPECT_EQ(texto->x() != caixa->layout()->contentsMargins().left(), com);
+            EXPECT_TRUE(com || texto->indent() + texto->contentsMargins().left() == 0);
             caixa->reject();
         });
         toolkit::MostraMensagem(

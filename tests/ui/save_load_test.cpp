@@ -1,162 +1,109 @@
-#include "core/files/ini_file.h"
 #include "core/records/save_slot.h"
-#include "tests/core/test_board.h"
 #include "tests/core/test_files.h"
-#include "tests/ui/support/dialog_game.h"
+#include "tests/ui/support/dialogs.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFile>
 #include <QInputMethodEvent>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kMenuAbrir = 2;
-constexpr int kMenuSalvar = 3;
-constexpr int kCancelar = 11;
+constexpr int kMenuAbrir = 2, kMenuSalvar = 3, kCancelar = 11;
 constexpr QColor kAzul(0, 0, 255);
+using Passos = RoteiroDialogos::Passos;
 
 toolkit::Label &LbSave(const toolkit::Form &form, int n)
 {
     return forms::Acha<toolkit::Label>(form, u"LbSave", n);
 }
 
-toolkit::Image &Imagem(const toolkit::Form &form, const char16_t *nome)
+Passos Cola(const QString &texto)
 {
-    return forms::Acha<toolkit::Image>(form, nome);
-}
-
-void Cola(toolkit::Form &form, const QString &texto)
-{
-    QApplication::clipboard()->setText(texto);
-    Tecla(form, Qt::Key_V, Qt::ControlModifier);
-}
-
-void Enter(toolkit::Form &form)
-{
-    Tecla(form, Qt::Key_Return);
-}
-
-void Esc(toolkit::Form &form)
-{
-    Tecla(form, Qt::Key_Escape);
+    return [texto](toolkit::Form &form) {
+        QApplication::clipboard()->setText(texto);
+        Tecla(form, Qt::Key_V, Qt::ControlModifier);
+    };
 }
 
 class SaveLoad : public TesteComDialogos
 {
 protected:
-    /// Saves into slot `n`; `nomeia` is run on the name's dialog.
-    void Salva(int n, const RoteiroDialogos::Passos &nomeia)
+    /// Saves into slot `n`; `nomeia` is run on the name's dialog, and Enter closes it.
+    void Salva(int n, const Passos &nomeia)
     {
-        dialogos.Espera(QStringLiteral("FrmSalvar"),
-                        [n](toolkit::Form &form) { ClicaNaJanela(LbSave(form, n)); });
-        dialogos.Espera(QStringLiteral("FrmSalvar2"), nomeia);
-        Menu(kMenuSalvar);
-    }
-
-    void SalvaComo(int n, const QString &nome)
-    {
-        Salva(n, [nome](toolkit::Form &form) {
-            Digita(form, nome);
-            Enter(form);
+        dialogos.Espera(u"FrmSalvar"_s, [this, n](toolkit::Form &form) {
+            EXPECT_EQ(std::exchange(jogo.valores.RegiaoJanela, 0), 1);
+            Clica(LbSave(form, n));
         });
+        dialogos.Espera(u"FrmSalvar2"_s, [&](toolkit::Form &form) {
+            EXPECT_EQ(jogo.valores.RegiaoJanela, 1) << "its corners are not cut";
+            nomeia(form);
+            if (form.isVisible()) Tecla(form, Qt::Key_Return);
+        });
+        jogo.Menu(kMenuSalvar);
     }
-
-    QString NomeNoSlot(int n) { return NomesDosSlots(Arquivo()).nome[static_cast<size_t>(n)]; }
-    QString Arquivo() { return Dados(kArquivoJogos); }
+    [[nodiscard]] QString Arquivo() const { return Dados(kArquivoJogos); }
 };
 
 } // namespace
 
-TEST_F(SaveLoad, WritesBehindTheDialogsAndGivesTheKeyboardBack)
-{
-    bool algumDialogo = true;
-    jogo.maquina.aoDeixarEventos = [this, &algumDialogo] {
-        if (!QFile::exists(Arquivo())) {
-            algumDialogo = QApplication::activeModalWidget() != nullptr;
-        }
-    };
-    SalvaComo(3, QStringLiteral("Zé & Ção"));
-    EXPECT_FALSE(algumDialogo);
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(jogo.c().Text1(jogo.d().estado.Focus).TemFoco()) << "the keyboard is elsewhere";
-    EXPECT_EQ(NomeNoSlot(3), QStringLiteral("Zé & Ção"));
-}
-
 TEST_F(SaveLoad, TakesNamesOfFourteenCharactersInWhateverWay)
 {
-    struct Caso
-    {
-        const char *nome;
-        std::function<void(toolkit::Form &)> entra;
-        QString noArquivo;
+    bool algumDialogo = true;
+    jogo.maquina.aoDeixarEventos = [&] {
+        if (!QFile::exists(Arquivo())) algumDialogo = QApplication::activeModalWidget() != nullptr;
     };
     const auto metodo = [](toolkit::Form &form) {
         QInputMethodEvent evento;
-        evento.setCommitString(QStringLiteral("ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛ"));
+        evento.setCommitString(u"ÁÉÍÓÚÀÈÌÒÙÃÕÂÊÎÔÛ"_s);
         QCoreApplication::sendEvent(form.focusWidget(), &evento);
         QCoreApplication::processEvents();
     };
-    const std::array casos = {
-        Caso{"typed", [](auto &form) { Digita(form, QStringLiteral("abcdefghijklmnop")); },
-             QStringLiteral("abcdefghijklmn")},
-        Caso{"pasted", [](auto &form) { Cola(form, QStringLiteral("ABCDEFGHIJKLMNOP")); },
-             QStringLiteral("ABCDEFGHIJKLMN")},
-        Caso{"by an input method", metodo, QStringLiteral("ÁÉÍÓÚÀÈÌÒÙÃÕÂÊ")},
-        Caso{"not in the code page", [](auto &form) { Cola(form, QStringLiteral("Ωmega")); },
-             QStringLiteral("?mega")},
-        Caso{"with a line end", [](auto &form) { Cola(form, QStringLiteral("a\n[jogo1]")); },
-             QStringLiteral("a [jogo1]")},
-        Caso{"none", [](auto &form) { Tecla(form, Qt::Key_Delete); },
-             QStringLiteral("Sem nome 10")},
-    };
-    for (const Caso &caso : casos) {
-        SCOPED_TRACE(caso.nome);
-        Salva(10, [&caso](toolkit::Form &form) {
-            caso.entra(form);
-            Enter(form);
-        });
-        EXPECT_EQ(NomeNoSlot(10), caso.noArquivo);
+    for (const auto &[entra, noArquivo] : std::vector<std::pair<Passos, QString>>{
+             {Cola(u"ABCDEFGHIJKLMNOP"_s), u"ABCDEFGHIJKLMN"_s},
+             {metodo, u"ÁÉÍÓÚÀÈÌÒÙÃÕÂÊ"_s},
+             {Cola(u"Ωmega & Ção"_s), u"?mega & Ção"_s},
+             {Cola(u"a\n[jogo1]"_s), u"a [jogo1]"_s},
+             {[](toolkit::Form &form) { Tecla(form, Qt::Key_Delete); }, u"Sem nome 10"_s}}) {
+        Salva(10, entra);
+        EXPECT_EQ(NomesDosSlots(Arquivo()).nome[10], noArquivo);
     }
+    EXPECT_FALSE(algumDialogo) << "the file is written before the dialogs have gone";
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(jogo.c().Text1(jogo.d().estado.Focus).TemFoco()) << "the keyboard is elsewhere";
 }
 
 TEST_F(SaveLoad, SparesAGameThatTheListCouldNotShow)
 {
-    SalvaComo(2, QStringLiteral("velho"));
+    Salva(2, Cola(u"velho"_s));
     const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
     // A folder stands there while the list is read.
     ASSERT_TRUE(QFile::rename(Arquivo(), Dados(u"fora")) && QDir().mkdir(Arquivo()));
-    Salva(2, [this](toolkit::Form &form) {
-        ASSERT_TRUE(QDir().rmdir(Arquivo()) && QFile::rename(Dados(u"fora"), Arquivo()));
-        Enter(form);
+    Salva(2, [this](toolkit::Form &) {
+        EXPECT_TRUE(QDir().rmdir(Arquivo()) && QFile::rename(Dados(u"fora"), Arquivo()));
     });
     EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
 }
 
 TEST_F(SaveLoad, ClosesWithoutEffectInEveryOtherWay)
 {
-    SalvaComo(1, QStringLiteral("um"));
+    Salva(1, Cola(u"um"_s));
     const QByteArray antes = PastaDeTeste::Conteudo(Arquivo());
     const int partida = jogo.d().tabuleiro.Partida;
-    const std::array<RoteiroDialogos::Passos, 4> fechos = {
-        [](toolkit::Form &form) { ClicaNaJanela(Imagem(form, u"Image1")); },
-        [](toolkit::Form &form) { Esc(form); },
+    const std::vector<Passos> fechos = {
+        [](toolkit::Form &form) { Clica(forms::Acha<toolkit::Image>(form, u"Image1")); },
+        [](toolkit::Form &form) { Tecla(form, Qt::Key_Escape); },
         [](toolkit::Form &form) { form.close(); },
-        [](toolkit::Form &form) { ClicaNaJanela(LbSave(form, kCancelar)); },
-    };
-    for (size_t k = 0; k < fechos.size(); ++k) {
-        SCOPED_TRACE(k);
-        dialogos.Espera(QStringLiteral("FrmCarregar"), fechos[k]);
-        Menu(kMenuAbrir);
-        dialogos.Espera(QStringLiteral("FrmSalvar"), fechos[k]);
-        Menu(kMenuSalvar);
+        [](toolkit::Form &form) { Clica(LbSave(form, kCancelar)); }};
+    for (const Passos &fecho : fechos) {
+        dialogos.Espera(u"FrmCarregar"_s, fecho);
+        jogo.Menu(kMenuAbrir);
+        dialogos.Espera(u"FrmSalvar"_s, fecho);
+        jogo.Menu(kMenuSalvar);
         // The name's dialog has no "Cancelar".
-        if (k + 1 < fechos.size()) {
-            Salva(2, [&fechos, k](toolkit::Form &form) {
-                Digita(form, QStringLiteral("dois"));
-                fechos[k](form);
-            });
-        }
+        if (&fecho != &fechos.back()) Salva(2, fecho);
     }
     EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
     EXPECT_EQ(jogo.d().tabuleiro.Partida, partida);
@@ -165,17 +112,17 @@ TEST_F(SaveLoad, ClosesWithoutEffectInEveryOtherWay)
 
 TEST_F(SaveLoad, ColoursTheLabelLastUnderTheMouse)
 {
-    dialogos.Espera(QStringLiteral("FrmCarregar"), [](toolkit::Form &form) {
-        PoeMouse(LbSave(form, 3));
-        EXPECT_EQ(LbSave(form, 3).ForeColor(), kAzul);
-        PoeMouse(LbSave(form, 5));
-        PoeMouse(Imagem(form, u"Image3"));
-        for (int n = 1; n <= kCancelar; ++n) {
-            EXPECT_EQ(LbSave(form, n).ForeColor(), n == 5 ? kAzul : toolkit::kPreto) << n;
+    dialogos.Espera(u"FrmCarregar"_s, [](toolkit::Form &form) {
+        for (const int n : {3, 5}) {
+            Paira(LbSave(form, n));
+            EXPECT_EQ(LbSave(form, n).ForeColor(), kAzul);
         }
-        PoeMouse(LbSave(form, kCancelar));
+        Paira(forms::Acha<toolkit::Image>(form, u"Image3"));
+        for (int n = 1; n <= kCancelar; ++n)
+            EXPECT_EQ(LbSave(form, n).ForeColor(), n == 5 ? kAzul : toolkit::kPreto) << n;
+        Paira(LbSave(form, kCancelar));
         EXPECT_EQ(LbSave(form, 5).ForeColor(), toolkit::kPreto);
-        ClicaNaJanela(LbSave(form, kCancelar));
+        Clica(LbSave(form, kCancelar));
     });
-    Menu(kMenuAbrir);
+    jogo.Menu(kMenuAbrir);
 }

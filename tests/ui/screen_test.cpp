@@ -1,6 +1,4 @@
 #include "tests/ui/support/test_game.h"
-
-#include "ui/forms/control_table.h"
 #include "ui/forms/splash.h"
 #include "ui/toolkit/message_box.h"
 #include "ui/window/center_form.h"
@@ -10,7 +8,6 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QBitmap>
-#include <QKeyEvent>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -19,13 +16,12 @@ namespace {
 
 constexpr QRgb kChave = qRgb(255, 0, 0);
 
-/// Places, in pixels, of the controls of a form, in their order.
-std::vector<QRect> Lugares(const toolkit::Form &form)
+/// Upper left corners, in pixels, of the controls of a form, in their order.
+std::vector<QPoint> Lugares(const toolkit::Form &form)
 {
-    std::vector<QRect> lugares;
-    for (const auto &controle : form.Controls()) {
-        lugares.push_back(controle->Widget() != nullptr ? controle->Widget()->geometry() : QRect());
-    }
+    std::vector<QPoint> lugares;
+    for (const auto &controle : form.Controls())
+        lugares.push_back(controle->Widget() == nullptr ? QPoint() : controle->Widget()->pos());
     return lugares;
 }
 
@@ -33,28 +29,29 @@ std::vector<QRect> Lugares(const toolkit::Form &form)
 
 TEST(AjustarDpi, PutsEveryControlOnItsPlaceOnTheBitmap)
 {
+    const JogoDeTeste normal;
+    const auto esperado = Lugares(normal.form->Janela());
     for (const int dpi : {120, 144}) {
-        JogoDeTeste normal(1);
+        SCOPED_TRACE(dpi);
         JogoDeTeste outro(1, BancoInventado(600), dpi);
+        const toolkit::Form &janela = outro.form->Janela();
         EXPECT_TRUE(outro.valores.DpiDiferente);
-        EXPECT_EQ(outro.form->Janela().size(), QSize(652, 499)) << dpi;
-        const QPoint longe = outro.form->Janela().pos() - normal.form->Janela().pos();
-        EXPECT_LE(longe.manhattanLength(), 2) << "off the middle of the screen at " << dpi;
-        EXPECT_NEAR(outro.c().Text1(300).Width(), 19, 0.001) << dpi;
-        EXPECT_FLOAT_EQ(outro.c().Picture3.Width(), outro.form->Janela().Width()) << dpi;
-        const auto esperado = Lugares(normal.form->Janela());
-        const auto lugares = Lugares(outro.form->Janela());
+        EXPECT_EQ(janela.size(), QSize(652, 499));
+        const QPoint longe = janela.pos() - normal.form->Janela().pos();
+        EXPECT_LE(longe.manhattanLength(), 2) << "off the middle of the screen";
+        EXPECT_NEAR(outro.c().Text1(300).Width(), 19, 0.001);
+        EXPECT_FLOAT_EQ(outro.c().Picture3.Width(), janela.Width());
+        const auto lugares = Lugares(janela);
         ASSERT_EQ(lugares.size(), esperado.size());
         for (size_t k = 0; k < lugares.size(); ++k) {
-            const auto &controle = *outro.form->Janela().Controls()[k];
             // A label that sizes itself follows its font, which has whole pixels.
-            const QPoint folga = lugares[k].topLeft() - esperado[k].topLeft();
+            const QPoint folga = lugares[k] - esperado[k];
             EXPECT_LE(qMax(qAbs(folga.x()), qAbs(folga.y())), 1)
-                << controle.Name().toStdString() << dpi;
+                << janela.Controls()[k]->Name().toStdString();
         }
         outro.Comeca();
         outro.Resolve(1);
-        EXPECT_TRUE(outro.d().Item(1).ItemResolvido) << dpi;
+        EXPECT_TRUE(outro.d().Item(1).ItemResolvido);
     }
 }
 
@@ -73,61 +70,44 @@ TEST(AjustarDpi, LeavesAFormWhosePictureFits)
     EXPECT_FLOAT_EQ(form.Controls()[1]->Top(), 1035 * 1.6F);
 }
 
-TEST(RegiaoDaFigura, CutsExactlyTheKeyColour)
-{
-    QImage figura(4, 2, QImage::Format_RGB32);
-    figura.fill(qRgb(0, 0, 255));
-    figura.setPixel(0, 0, kChave);
-    figura.setPixel(3, 0, kChave);
-    figura.setPixel(2, 1, kChave); // a hole
-    figura.setPixel(0, 1, qRgb(254, 0, 0));
-    const auto regiao = RegiaoDaFigura(figura, kChave);
-    ASSERT_TRUE(regiao);
-    EXPECT_EQ(*regiao, QRegion(1, 0, 2, 1) + QRect(0, 1, 2, 1) + QRect(3, 1, 1, 1));
-    EXPECT_FALSE(RegiaoDaFigura(QImage(), kChave)) << "the window stays a rectangle";
-}
-
-TEST(RegiaoDaFigura, ComesFromTheDrawingOfTheScreen)
+TEST(RegiaoDaFigura, ComesFromTheDrawingOfTheScreenAndLeavesNoKeyColour)
 {
     const toolkit::Picture figura(QStringLiteral("Form1"));
-    const auto naEscala = [&figura](qreal escala) {
-        return RegiaoDaFigura(figura.ParaEscala(escala).toImage(), kChave);
-    };
-    ASSERT_TRUE(naEscala(1) && naEscala(2));
-    EXPECT_EQ(naEscala(1)->boundingRect().size(), QSize(652, 499));
-    EXPECT_EQ(naEscala(2)->boundingRect().size(), QSize(1304, 998));
-    // The finer corner has steps of single device pixels: more rows of its own than the doubled
-    // coarse one.
-    EXPECT_GT(naEscala(2)->rectCount(), naEscala(1)->rectCount());
-    // What is shown has no key colour left, at any scale.
-    for (const qreal escala : {1.0, 2.0, 3.0}) {
-        const QImage coberta = figura.Coberta(kChave).ParaEscala(escala).toImage();
+    int trechos = 0;
+    for (const int escala : {1, 2, 3}) {
+        const auto daFigura = [escala](const toolkit::Picture &qual) {
+            return qual.ParaEscala(escala).toImage();
+        };
+        const auto regiao = RegiaoDaFigura(daFigura(figura), kChave);
+        ASSERT_TRUE(regiao);
+        EXPECT_EQ(regiao->boundingRect().size(), QSize(652, 499) * escala);
+        // The finer corner has steps of single device pixels: more rows of its own than the
+        // doubled coarse one.
+        EXPECT_GT(regiao->rectCount(), std::exchange(trechos, regiao->rectCount()));
+        const QImage coberta = daFigura(figura.Coberta(kChave));
         EXPECT_NE(coberta.pixel(0, 0) & RGB_MASK, kChave & RGB_MASK) << escala;
         EXPECT_EQ(*RegiaoDaFigura(coberta, kChave), QRegion(coberta.rect())) << escala;
-        const QImage vazada = figura.Vazada(kChave).ParaEscala(escala).toImage();
-        const QRegion opaca(QBitmap::fromImage(vazada.createAlphaMask()));
-        EXPECT_EQ(opaca, *RegiaoDaFigura(figura.ParaEscala(escala).toImage(), kChave)) << escala;
+        const QImage opaca = daFigura(figura.Vazada(kChave)).createAlphaMask();
+        EXPECT_EQ(QRegion(QBitmap::fromImage(opaca)), *regiao) << escala;
     }
+    EXPECT_FALSE(RegiaoDaFigura(QImage(), kChave)) << "the window stays a rectangle";
 }
 
 TEST(CentralizaForm, KeepsTheTitleStripOnAScreenThatIsTooSmall)
 {
     const QRect tela = QGuiApplication::primaryScreen()->geometry();
     toolkit::Form form(toolkit::Moldura::Nenhuma, toolkit::kDpiPadrao);
-    form.SetSize(3000, 1500);
-    CentralizaForm(form);
-    EXPECT_EQ(form.pos(),
-              QPoint(tela.x() + (tela.width() - 200) / 2, tela.y() + (tela.height() - 100) / 2));
-    form.SetSize(static_cast<float>(tela.width() + 100) * 15,
-                 static_cast<float>(tela.height() + 100) * 15);
-    CentralizaForm(form);
-    EXPECT_EQ(form.pos(), tela.topLeft());
+    for (const int sobra : {-300, 100}) {
+        form.SetSize(15.0F * static_cast<float>(tela.width() + sobra),
+                     15.0F * static_cast<float>(tela.height() + sobra));
+        CentralizaForm(form);
+        EXPECT_EQ(form.pos() - tela.topLeft(), sobra < 0 ? QPoint(150, 150) : QPoint()) << sobra;
+    }
 }
 
 TEST(MostraMensagem, GivesTheKeyboardBackAndIsNotAnsweredByAKeyHeldDown)
 {
     toolkit::Form dona(toolkit::Moldura::Nenhuma, toolkit::kDpiPadrao);
-    dona.SetSize(3000, 1500);
     dona.Show();
     QCoreApplication::processEvents();
     bool aberta = false;

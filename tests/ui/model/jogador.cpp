@@ -1,7 +1,5 @@
 #include "tests/ui/model/jogador.h"
 
-#include "tests/ui/support/player.h"
-
 #include <algorithm>
 #include <QApplication>
 #include <QClipboard>
@@ -202,7 +200,7 @@ void Jogador::NoDialogo(toolkit::Form &form, const Respostas &r)
 void Jogador::ClicaNoDialogo(const toolkit::Control &controle)
 {
     m_mouse = MeioDe(controle.Widget());
-    ClicaNaJanela(controle);
+    ::Clica(controle);
 }
 
 // ---- Gestures in the program

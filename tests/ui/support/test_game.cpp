@@ -1,14 +1,12 @@
 #include "tests/ui/support/test_game.h"
 
 #include "core/files/codepage.h"
-#include "core/records/ranking_table.h"
 #include "ui/main_form/splash.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QDir>
-#include <QFile>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,23 +18,56 @@ QString PalavraInventada(Acaso &acaso)
     constexpr QStringView kVogais = u"AEIOUAEOÃÉ";
     constexpr QStringView kConsoantes = u"BCDFGLMNPRSTVÇRSTNL";
     int sorte = SorteiaNumero(acaso, 100);
-    int letras = 3;
-    for (const int parte : kPartes) {
-        if (sorte <= parte) {
-            break;
-        }
-        sorte -= parte;
-        ++letras;
-    }
+    size_t letras = 0;
+    while (letras < kPartes.size() && sorte > kPartes[letras])
+        sorte -= kPartes[letras++];
     QString palavra;
-    for (int k = 0; k < letras; ++k) {
+    for (size_t k = 0; k < letras + 3; ++k) {
         const QStringView fonte = k % 2 == 0 ? kConsoantes : kVogais;
         palavra += fonte[SorteiaNumero(acaso, static_cast<int>(fonte.size())) - 1];
     }
     return palavra;
 }
 
+QWindow *JanelaDe(const toolkit::Control &controle)
+{
+    return controle.Widget()->window()->windowHandle();
+}
+
+QPoint MeioNaJanela(const toolkit::Control &controle)
+{
+    const QWidget *widget = controle.Widget();
+    return widget->mapTo(widget->window(), widget->rect().center());
+}
+
 } // namespace
+
+void Clica(const toolkit::Control &controle)
+{
+    QTest::mouseClick(JanelaDe(controle), Qt::LeftButton, {}, MeioNaJanela(controle));
+}
+
+void Clica(toolkit::Form &form, QPoint lugar)
+{
+    QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, lugar);
+}
+
+void Paira(const toolkit::Control &controle)
+{
+    QTest::mouseMove(JanelaDe(controle), MeioNaJanela(controle));
+}
+
+void Digita(toolkit::Form &form, const QString &texto)
+{
+    for (const QChar letra : texto)
+        QTest::sendKeyEvent(QTest::Click, form.windowHandle(),
+                            static_cast<Qt::Key>(letra.toUpper().unicode()), QString(letra), {});
+}
+
+void Tecla(toolkit::Form &form, Qt::Key tecla, Qt::KeyboardModifiers com)
+{
+    QTest::keyClick(form.windowHandle(), tecla, com);
+}
 
 Ambiente MaquinaDeTeste::Seam(std::uint64_t semente)
 {
@@ -48,21 +79,15 @@ Ambiente MaquinaDeTeste::Seam(std::uint64_t semente)
     };
     ambiente.mensagem = [this](const PedidoMensagem &pedido) {
         mensagens << pedido.texto;
-        if (naMensagem) {
-            naMensagem();
-        }
-        if (!respostas.empty()) {
-            const Resposta resposta = respostas.front();
-            respostas.pop_front();
-            return resposta;
-        }
-        return pedido.botoes == Botoes::SimNao ? Resposta::Sim : Resposta::Ok;
+        botoes = pedido.botoes;
+        if (respostas.empty()) return botoes == Botoes::SimNao ? Resposta::Sim : Resposta::Ok;
+        const Resposta resposta = respostas.front();
+        respostas.pop_front();
+        return resposta;
     };
     ambiente.abrePagina = [this](const QString &endereco) { paginas << endereco; };
     ambiente.deixaEventos = [this] {
-        if (aoDeixarEventos) {
-            aoDeixarEventos();
-        }
+        if (aoDeixarEventos) aoDeixarEventos();
         QCoreApplication::processEvents();
     };
     ambiente.dorme = [](int) {};
@@ -70,22 +95,18 @@ Ambiente MaquinaDeTeste::Seam(std::uint64_t semente)
     return ambiente;
 }
 
-QByteArray BancoInventado(int quantas, std::uint64_t semente)
+QByteArray BancoInventado(int quantas)
 {
-    AcasoMersenne acaso(semente);
+    AcasoMersenne acaso(1);
     QStringList palavras;
     while (palavras.size() < quantas) {
         const QString palavra = PalavraInventada(acaso);
-        if (!palavras.contains(palavra)) {
-            palavras << palavra;
-        }
+        if (!palavras.contains(palavra)) palavras << palavra;
     }
     QByteArray bytes;
-    for (const QString &palavra : palavras) {
-        bytes += ParaCodePage(palavra).leftJustified(kBytesPalavra, ' ');
-        bytes +=
-            ParaCodePage(QStringLiteral("Dica de ") + palavra).leftJustified(kBytesDica, ' ') + ' ';
-    }
+    for (const QString &palavra : palavras)
+        bytes += ParaCodePage(palavra).leftJustified(kBytesPalavra, ' ') +
+                 ParaCodePage(u"Dica de "_s + palavra).leftJustified(kBytesDica, ' ') + ' ';
     return bytes;
 }
 
@@ -94,11 +115,10 @@ JogoDeTeste::JogoDeTeste(std::uint64_t semente, const QByteArray &banco, int dpi
 {
     FixaValores(valores, pasta.path());
     valores.registro = &m_registro.Acesso();
-    QDir(pasta.path()).mkdir(QStringLiteral("Dados"));
+    QDir(pasta.path()).mkdir(u"Dados"_s);
     QFile arquivo(Caminho(kArquivoBanco));
-    if (arquivo.open(QIODevice::WriteOnly)) {
-        arquivo.write(banco);
-    }
+    if (!arquivo.open(QIODevice::WriteOnly) || arquivo.write(banco) < 0)
+        qFatal("the bank cannot be written");
     arquivo.close();
     form = std::make_unique<Form1>(valores, m_ambiente, dpi);
 }
@@ -108,85 +128,31 @@ QString JogoDeTeste::Caminho(QStringView nome) const
     return QDir(pasta.path()).filePath(nome.toString());
 }
 
-void JogoDeTeste::EncheRanking() const
-{
-    for (int p = 1; p <= kLugares; ++p) {
-        GravaLugar(Caminho(u"Dados/Ranking.dat"), p, QStringLiteral("Ana"), 0);
-    }
-}
-
 void JogoDeTeste::Comeca()
 {
     form->Show();
     const bool pronto =
         QTest::qWaitFor([this] { return c().Timer1.Ligado() || !maquina.mensagens.isEmpty(); });
-    Q_ASSERT(pronto);
-    QCoreApplication::processEvents();
-}
-
-void JogoDeTeste::Clica(const toolkit::Control &controle, Qt::MouseButton botao)
-{
-    QTest::mouseClick(controle.Widget(), botao);
-}
-
-void JogoDeTeste::Paira(const toolkit::Control &controle)
-{
-    QMouseEvent movimento(QEvent::MouseMove, QPointF(2, 2),
-                          controle.Widget()->mapToGlobal(QPointF(2, 2)), Qt::NoButton, Qt::NoButton,
-                          Qt::NoModifier);
-    QApplication::sendEvent(controle.Widget(), &movimento);
-}
-
-void JogoDeTeste::Digita(const QString &texto)
-{
-    for (const QChar letra : texto) {
-        if (QWidget *foco = form->Janela().focusWidget()) {
-            // QTest's own key clicks know no letter beyond ASCII.
-            for (const auto tipo : {QEvent::KeyPress, QEvent::KeyRelease}) {
-                QKeyEvent evento(tipo, Qt::Key_unknown, Qt::NoModifier, letra);
-                QApplication::sendEvent(foco, &evento);
-            }
-        }
-    }
-}
-
-void JogoDeTeste::Tecla(Qt::Key tecla, Qt::KeyboardModifiers mais)
-{
-    if (QWidget *foco = form->Janela().focusWidget()) {
-        QTest::keyClick(foco, tecla, mais);
-    }
-}
-
-void JogoDeTeste::Cola(const QString &texto)
-{
-    QApplication::clipboard()->setText(texto);
-    Tecla(Qt::Key_V, Qt::ControlModifier);
-}
-
-void JogoDeTeste::Seleciona(int n)
-{
-    Clica(c().Lbt(n));
+    if (!pronto || !QTest::qWaitForWindowActive(&form->Janela())) qFatal("no game begins");
 }
 
 QString JogoDeTeste::LetrasLivres(int n) const
 {
     const RegistroItem &item = d().Item(n);
     QString letras;
-    for (int k = 0; k < item.Palavra.size(); ++k) {
-        letras += d().Quadrado(CelulaDaLetra(item, k)).Fixa ? QString() : QString(item.Palavra[k]);
-    }
+    for (int k = 0; k < item.Palavra.size(); ++k)
+        if (!d().Quadrado(CelulaDaLetra(item, k)).Fixa) letras += item.Palavra[k];
     return letras;
 }
 
-void JogoDeTeste::Resolve(int n)
+void JogoDeTeste::Resolve(int n) const
 {
     Seleciona(n);
     Digita(LetrasLivres(n));
 }
 
-void JogoDeTeste::ResolveAte(int quantos)
+void JogoDeTeste::ResolveAte(int quantos) const
 {
-    while (ContaResolvidos(d().tabuleiro) < quantos) {
+    while (ContaResolvidos(d().tabuleiro) < quantos)
         Resolve(PrimeiroAberto(d().tabuleiro));
-    }
 }

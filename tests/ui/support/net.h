@@ -1,12 +1,41 @@
 #pragma once
 
-#include <functional>
+#include "tests/ui/support/test_game.h"
+
+#include <gtest/gtest.h>
 #include <map>
-#include <memory>
-#include <QByteArrayList>
-#include <QObject>
+#include <QElapsedTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
+
+/// The machine of a network test: a clock that only the test moves, events that really run, and
+/// folders that go with the test.
+class MaquinaDeRede : public MaquinaDeTeste
+{
+public:
+    MaquinaDeRede();
+
+    /// Names of all files in the folders for temporary files and for downloads.
+    [[nodiscard]] QStringList Arquivos() const;
+    [[nodiscard]] QString PastaTemporaria() const;
+    [[nodiscard]] QString PastaDownloads() const;
+
+    /// Seconds by which each turn of a wait moves the clock.
+    double passo = 0;
+    /// Runs in each turn of a wait.
+    std::function<void()> aCadaVolta;
+    /// How often a timer of the program's other windows has fired.
+    int tiques = 0;
+    /// A wait hung and was ended by force.
+    bool preso = false;
+    Ambiente ambiente = Seam(1);
+
+private:
+    QTemporaryDir m_pasta;
+    QTimer m_relogio;
+    QElapsedTimer m_desdeOInicio;
+};
 
 /// A web server on this machine that says, for each path, exactly what a test wants, also what no
 /// proper server would say.
@@ -19,15 +48,16 @@ public:
 
     /// With Https its certificate is its own, made for 127.0.0.1, and nobody trusts it.
     explicit ServidorDeTeste(Fala fala = Fala::Http);
-    ~ServidorDeTeste() override;
 
-    void Responde(const QByteArray &caminho, Roteiro roteiro);
-    /// Address of the server, by number, without a slash at its end.
-    [[nodiscard]] QString Site() const;
+    void Responde(const QByteArray &caminho, const Roteiro &roteiro)
+    {
+        m_roteiros[caminho] = roteiro;
+    }
+    /// Address of a path of the server, by number.
+    [[nodiscard]] QString Endereco(const char *caminho = "") const;
     [[nodiscard]] quint16 Porta() const { return m_servidor->serverPort(); }
     /// Every request, from its first line to its last header.
     [[nodiscard]] const QByteArrayList &Pedidos() const { return m_pedidos; }
-
     /// The certificate in PEM, for a client that is to trust it.
     static QByteArray Certificado();
 
@@ -48,7 +78,12 @@ QByteArray Http200(const QByteArray &corpo);
 enum class Depois { Fecha, Espera };
 /// Sends the bytes, then closes the connection or leaves it open and silent.
 ServidorDeTeste::Roteiro Diz(const QByteArray &bytes, Depois depois = Depois::Fecha);
-/// Sends `cabecalho` and then a body without end, and counts what has left for the client.
-ServidorDeTeste::Roteiro DizSemFim(const QByteArray &cabecalho, qint64 &enviados);
 /// Sends the client on to another address.
 ServidorDeTeste::Roteiro Desvia(const QString &endereco);
+
+class TesteDeRede : public ::testing::Test
+{
+protected:
+    MaquinaDeRede maquina;
+    ServidorDeTeste servidor;
+};
