@@ -6,8 +6,6 @@
 #include <QGuiApplication>
 #include <QTest>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class Sobre : public TesteDeRede

@@ -2,13 +2,9 @@
 
 #include "tests/ui/support/net.h"
 #include <atomic>
-#include <QDir>
 #include <QFile>
-#include <QSslConfiguration>
 #include <QTest>
 #include <QThread>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,7 +33,7 @@ TEST_F(Baixador, GivesTheTextThatHasComeAndNothingForFailures)
     struct Caso
     {
         const char *nome;
-        ServidorDeTeste::Roteiro roteiro;
+        Roteiro roteiro;
         QByteArray texto;
     };
     const QByteArray cheia(kLimite, 'x');

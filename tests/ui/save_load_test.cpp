@@ -1,4 +1,5 @@
 #include "core/records/save_slot.h"
+#include "tests/core/test_board.h"
 #include "tests/core/test_files.h"
 #include "tests/ui/support/dialogs.h"
 
@@ -108,6 +109,24 @@ TEST_F(SaveLoad, ClosesWithoutEffectInEveryOtherWay)
     EXPECT_EQ(PastaDeTeste::Conteudo(Arquivo()), antes);
     EXPECT_EQ(jogo.d().tabuleiro.Partida, partida);
     EXPECT_TRUE(jogo.maquina.mensagens.isEmpty());
+}
+
+TEST_F(SaveLoad, ChecksAFullWordOnlyWhenTheLoadIsOver)
+{
+    // The words across are solved and fill the words down, but for the last of them.
+    Tabuleiro tabuleiro = TabuleiroDeTeste();
+    for (RegistroItem &item : tabuleiro.ItemPalavra)
+        item.ItemResolvido = item.Sentido == u'H';
+    tabuleiro.ItemPalavra[kItens].ItemResolvido = true;
+    ASSERT_TRUE(SalvaSlot(Arquivo(), 1, u"cheio"_s, tabuleiro, 30, u"."_s));
+    dialogos.Espera(u"FrmCarregar"_s, [](toolkit::Form &form) { Clica(LbSave(form, 1)); });
+    dialogos.Espera(u"FrmSeuNome"_s, [this](toolkit::Form &form) {
+        EXPECT_FALSE(jogo.c().Picespere.Visible() || jogo.c().Image4.Visible());
+        Tecla(form, Qt::Key_Return);
+    });
+    dialogos.Espera(u"FrmHanking"_s, [](toolkit::Form &form) { Tecla(form, Qt::Key_Escape); });
+    jogo.Menu(kMenuAbrir);
+    EXPECT_TRUE(jogo.d().estado.TudoResolvido);
 }
 
 TEST_F(SaveLoad, ColoursTheLabelLastUnderTheMouse)

@@ -3,11 +3,8 @@
 #include "core/machine/texts.h"
 #include "tests/ui/support/net.h"
 #include <QApplication>
-#include <QDir>
 #include <QPushButton>
 #include <QTest>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
