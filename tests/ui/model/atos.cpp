@@ -11,8 +11,7 @@ namespace {
 using Tipo = Gesto::Tipo;
 
 constexpr size_t kAtosPorSessao = 180;
-/// A double click on a button counts as one click still.
-constexpr bool kDuplosNosBotoes = false;
+
 /// How often each kind of act comes, in hundredths.
 constexpr std::array kPesos = {10, 8, 8, 6, 4, 9, 6, 9, 4, 7, 4, 7, 9, 1, 3, 3, 1, 0, 1};
 constexpr std::array kTeclas = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Backspace, Qt::Key_Left,
@@ -197,7 +196,7 @@ QString Jogador::Faz(const Ato &ato)
         ResolveItem(m_regras.Aberto(), b);
     if (tipo == 4 && !falta.isEmpty()) Escreve(falta.chopped(1) + u'Ô', b);
     if (tipo == 5) Clica(CasaAoAcaso(a, c % 2 == 1), b % 3);
-    if (tipo == 6) Clica({u"Lbt"_s, 1 + a % kPalavras}, kDuplosNosBotoes && b % 4 == 0 ? 2 : 0, r);
+    if (tipo == 6) Clica({u"Lbt"_s, 1 + a % kPalavras}, b % 4 == 0 ? 2 : 0, r);
     if (tipo == 7) Executa({.alvo = CasaAoAcaso(a, b % 2 == 1)});
     if (tipo == 7 && b % 8 < 6) Executa({.tipo = Tipo::Tique, .n = 3});
     if (tipo == 7 && b % 8 < 2) Executa({.tipo = Tipo::Tique, .n = 2});

@@ -320,9 +320,9 @@ void Jogador::Executa(Gesto gesto)
     m_sorte->sorteios = m_regras.sorteios = m_cedeuNoPainel = 0;
     m_interrompido = m_interrompidoNoModelo = false;
     NoPrograma(gesto);
-    m_gesto = nullptr;
     for (int k = 0; k < 3 || (k < 50 && !m_jogo.form->Janela().isActiveWindow()); ++k)
         QCoreApplication::processEvents();
+    m_gesto = nullptr;
     NoModelo(gesto);
     m_doModelo = nullptr;
     Compara(Nome(gesto));
