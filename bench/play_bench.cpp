@@ -44,7 +44,7 @@ void MedeNovoJogo(const JogoDeTeste &jogo)
 {
     std::vector<double> ms;
     for (int k = 0; k < kNovosJogos; ++k) {
-        ms.push_back(Mede([&jogo] { JogoDeTeste::Clica(*jogo.c().Label3[0]); }));
+        ms.push_back(Mede([&jogo] { jogo.Menu(0); }));
     }
     Imprime("new game, click to playable board", ms);
 }
